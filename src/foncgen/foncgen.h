@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+
+namespace velmora {
+
+/// The general-function object: the text forms of numbers, dates and hours. One lives in each session.
+/// It has no state; its methods are pure.
+class Foncgen
+{
+public:
+    /// `number` in decimal, zero-padded on the left to `width`: strz(5, 2) is "05". A number that is wider
+    /// than `width` is written whole.
+    [[nodiscard]] static QString strz(int number, int width);
+
+    /// `number` with exactly `decimals` decimals and the decimal mark of the system's locale.
+    [[nodiscard]] static QString strn(double number, int decimals);
+
+    /// "dd/mm/yyyy"; empty for an invalid date.
+    [[nodiscard]] static QString dtoc(const QDate &date);
+
+    /// Reads "dd/mm/yyyy"; day and month may have one digit. An invalid date for any other text.
+    [[nodiscard]] static QDate ctod(const QString &text);
+
+    /// Minutes as hour text: "8h20", "0h00", "-0h15", padded on the left with blanks to no width: a cell
+    /// is centred and callers compare with "0h00", so `width` (5 for a moment, 7 for a duration) only
+    /// states the widest text expected.
+    [[nodiscard]] static QString fwhl(int minutes, int width);
+
+    /// Minutes of an hour text, the inverse of `fwhl`. Accepts what a person types: "8h20", "8h", "8h2"
+    /// (8h02), "8:20", "8.20", "0820", "8", with blanks around, and a leading "-". Returns `horsPlage` for
+    /// anything else, minutes above 59 included, so that the range rules refuse it.
+    [[nodiscard]] static int valhor(const QString &text);
+
+    /// What `valhor` returns for a text that is no hour: outside 0 to 1440.
+    static constexpr int horsPlage = 9999;
+
+    /// ISO-8601 week number of the date, 1 to 53.
+    [[nodiscard]] static int nosem(const QDate &date);
+
+    /// French name of a weekday, 1 is Sunday: "dimanche", "lundi", ... Empty outside 1 to 7.
+    [[nodiscard]] static QString nomjour(int weekday);
+};
+
+} // namespace velmora

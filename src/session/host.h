@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QDate>
+#include <QDateTime>
+#include <QString>
+
+namespace velmora {
+
+/// What the system asks of the machine and of the user. The windows give it a desktop implementation, the
+/// command line one that speaks on the standard streams, and the tests a script.
+class Host
+{
+public:
+    Host() = default;
+    Host(const Host &) = delete;
+    Host &operator=(const Host &) = delete;
+    virtual ~Host() = default;
+
+    /// A modal message with one OK button.
+    virtual void message(const QString &text, const QString &title) = 0;
+
+    /// A modal question with the buttons Yes and No. True on Yes.
+    [[nodiscard]] virtual bool question(const QString &text, const QString &title) = 0;
+
+    /// Today's date and the moment now, in local time.
+    [[nodiscard]] virtual QDate today() const = 0;
+    [[nodiscard]] virtual QDateTime now() const = 0;
+
+    /// Opens a document or an address with the program that the desktop associates with it. The result is
+    /// not reported: a missing program means that nothing opens.
+    virtual void open(const QString &target) = 0;
+
+    /// Ends the process at once, with no saving.
+    [[noreturn]] virtual void endProcess() = 0;
+};
+
+/// The default title of messages.
+inline const QString titre = QStringLiteral("velmora");
+
+} // namespace velmora

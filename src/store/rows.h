@@ -1,0 +1,195 @@
+#pragma once
+
+#include "store/fields.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <QString>
+
+#include <optional>
+
+// The rows of the main database's tables. Minutes are whole minutes; see each table's row for the rest.
+namespace velmora {
+
+/// A moment of the day or a duration, in minutes.
+inline constexpr int minutesParJour = 1440;
+
+/// `sitper`: one day of hours of a line. Moments are minutes of the day, 0 to 1440; a moment below
+/// `heurdeb` belongs to the next day.
+struct JourSit {
+    int nump = 0;
+    QDate dat;
+    int Type = 0; ///< 1 for hours entered
+    int numri = 0;
+    int numi = 0;
+    int numimp = 0;
+    int numv = 0;
+    int sit = 0;
+    bool Val = false; ///< false while an absence covers the day: the row is kept but doesn't count
+    int heurdeb = 0;
+    int heurfin = 0;
+    int hideb = 0; ///< first cut; equal ends mean no cut
+    int hifin = 0;
+    int hideb2 = 0; ///< second cut, likewise
+    int hifin2 = 0;
+    int heurtrav = 0; ///< worked time as entered
+    int heurpaye = 0; ///< paid time
+    int hdeb1 = 0;    ///< the slices as entered, six pairs
+    int hfin1 = 0;
+    int hdeb2 = 0;
+    int hfin2 = 0;
+    int hdeb3 = 0;
+    int hfin3 = 0;
+    int hdeb4 = 0;
+    int hfin4 = 0;
+    int hdeb5 = 0;
+    int hfin5 = 0;
+    int hdeb6 = 0;
+    int hfin6 = 0;
+    QDateTime datj; ///< moment of writing
+    QString horaire;
+    bool babs = false;
+};
+
+/// `ligmois`: one planning line, a worker or a post. Limits are in minutes but for `nrep` and `nrepd`.
+struct Ligne {
+    int nump = 0;
+    QString nom;
+    QDate datedeb;
+    QDate datefin; ///< last date, inclusive; 01/01/2099 while the line is open
+    bool bcontrolh = false;
+    int maxs = 0;
+    int maxj = 0;
+    int ampj = 0;
+    int reposmin = 0;
+    bool b6j = false;
+    bool bcontrolr = false;
+    int nrep = 0;
+    int nrepd = 0;
+    bool bcontrolp = false;
+    int pause = 0;
+};
+
+/// `absences`: one span of absence, both dates inclusive.
+struct AbsenceSaisie {
+    int nump = 0;
+    int numi = 0;
+    QString codabs;
+    QDate datedeb;
+    QDate datefin;
+};
+
+/// `codabs`: an absence code and how a day of it counts and shows. Colours are 0xRRGGBB.
+struct CodeAbsence {
+    QString codabs; ///< two characters, a single letter after a blank
+    QString libecour;
+    QString libelong;
+    std::optional<int> modabs; ///< -1 never counts, 0 the hours of the day, above 0 that many minutes
+    bool bcouleur = false;
+    int backc = 0;
+    int forec = 0;
+    bool barc = false;
+    QString classe;
+    QString larr;
+};
+
+/// `parcg`: a parameter set, in force from `dat` on.
+struct JeuParam {
+    QDate dat;
+    int fdomtom = 0; ///< region, 0 to 9
+    int convcol = 0;
+    QString nometab;
+};
+
+/// `ferie`: a holiday or closure.
+struct JourFerie {
+    QDate datedeb;
+    QDate datefin;
+    QString lib;
+    int act = 0; ///< 1 protects a row entered by hand from the reset
+    int Val = 0;
+};
+
+/// `groupe`: a folder's head row (`nump` 0) or one line of the folder.
+struct Dossier {
+    QString groupe;
+    int nump = 0;
+    bool sel = false;
+};
+
+/// `tnum`: the one row of the base's own state.
+struct Tnum {
+    QString chemin; ///< last backup target
+    double Version = 0;
+    int num = 0;
+};
+
+/// `veloption`: no field of it is read; the table has to be there.
+struct Veloption {
+    int num = 0;
+};
+
+} // namespace velmora
+
+namespace velmora::store {
+
+template <>
+inline constexpr auto fieldsOf<JourSit> =
+    fields(field("nump", &JourSit::nump), field("dat", &JourSit::dat), field("Type", &JourSit::Type),
+           field("numri", &JourSit::numri), field("numi", &JourSit::numi), field("numimp", &JourSit::numimp),
+           field("numv", &JourSit::numv), field("sit", &JourSit::sit), field("Val", &JourSit::Val),
+           field("heurdeb", &JourSit::heurdeb), field("heurfin", &JourSit::heurfin),
+           field("hideb", &JourSit::hideb), field("hifin", &JourSit::hifin), field("hideb2", &JourSit::hideb2),
+           field("hifin2", &JourSit::hifin2), field("heurtrav", &JourSit::heurtrav),
+           field("heurpaye", &JourSit::heurpaye), field("hdeb1", &JourSit::hdeb1),
+           field("hfin1", &JourSit::hfin1), field("hdeb2", &JourSit::hdeb2), field("hfin2", &JourSit::hfin2),
+           field("hdeb3", &JourSit::hdeb3), field("hfin3", &JourSit::hfin3), field("hdeb4", &JourSit::hdeb4),
+           field("hfin4", &JourSit::hfin4), field("hdeb5", &JourSit::hdeb5), field("hfin5", &JourSit::hfin5),
+           field("hdeb6", &JourSit::hdeb6), field("hfin6", &JourSit::hfin6), field("datj", &JourSit::datj),
+           field("horaire", &JourSit::horaire), field("babs", &JourSit::babs));
+
+template <>
+inline constexpr auto fieldsOf<Ligne> =
+    fields(field("nump", &Ligne::nump), field("nom", &Ligne::nom), field("datedeb", &Ligne::datedeb),
+           field("datefin", &Ligne::datefin), field("bcontrolh", &Ligne::bcontrolh),
+           field("maxs", &Ligne::maxs), field("maxj", &Ligne::maxj), field("ampj", &Ligne::ampj),
+           field("reposmin", &Ligne::reposmin), field("b6j", &Ligne::b6j),
+           field("bcontrolr", &Ligne::bcontrolr), field("nrep", &Ligne::nrep), field("nrepd", &Ligne::nrepd),
+           field("bcontrolp", &Ligne::bcontrolp), field("pause", &Ligne::pause));
+
+template <>
+inline constexpr auto fieldsOf<AbsenceSaisie> =
+    fields(field("nump", &AbsenceSaisie::nump), field("numi", &AbsenceSaisie::numi),
+           field("codabs", &AbsenceSaisie::codabs), field("datedeb", &AbsenceSaisie::datedeb),
+           field("datefin", &AbsenceSaisie::datefin));
+
+template <>
+inline constexpr auto fieldsOf<CodeAbsence> =
+    fields(field("codabs", &CodeAbsence::codabs), field("libecour", &CodeAbsence::libecour),
+           field("libelong", &CodeAbsence::libelong), field("modabs", &CodeAbsence::modabs),
+           field("bcouleur", &CodeAbsence::bcouleur), field("backc", &CodeAbsence::backc),
+           field("forec", &CodeAbsence::forec), field("barc", &CodeAbsence::barc),
+           field("classe", &CodeAbsence::classe), field("larr", &CodeAbsence::larr));
+
+template <>
+inline constexpr auto fieldsOf<JeuParam> =
+    fields(field("dat", &JeuParam::dat), field("fdomtom", &JeuParam::fdomtom),
+           field("convcol", &JeuParam::convcol), field("nometab", &JeuParam::nometab));
+
+template <>
+inline constexpr auto fieldsOf<JourFerie> =
+    fields(field("datedeb", &JourFerie::datedeb), field("datefin", &JourFerie::datefin),
+           field("lib", &JourFerie::lib), field("act", &JourFerie::act), field("Val", &JourFerie::Val));
+
+template <>
+inline constexpr auto fieldsOf<Dossier> =
+    fields(field("groupe", &Dossier::groupe), field("nump", &Dossier::nump), field("sel", &Dossier::sel));
+
+template <>
+inline constexpr auto fieldsOf<Tnum> =
+    fields(field("chemin", &Tnum::chemin), field("Version", &Tnum::Version), field("num", &Tnum::num));
+
+template <>
+inline constexpr auto fieldsOf<Veloption> = fields(field("num", &Veloption::num));
+
+} // namespace velmora::store
