@@ -3,7 +3,8 @@
 #include <QDate>
 #include <QString>
 
-namespace velmora {
+namespace velmora
+{
 
 /// The general-function object: the text forms of numbers, dates and hours. One lives in each session.
 /// It has no state; its methods are pure.
@@ -11,16 +12,18 @@ class Foncgen
 {
 public:
     /// `number` in decimal, zero-padded on the left to `width`: strz(5, 2) is "05". A number that is wider
-    /// than `width` is written whole.
+    /// than `width` is written whole. A "-" counts in the width and stands before the zeros.
     [[nodiscard]] static QString strz(int number, int width);
 
-    /// `number` with exactly `decimals` decimals and the decimal mark of the system's locale.
+    /// `number` with exactly `decimals` decimals and the decimal mark of the system's locale, without group
+    /// separators. `decimals` is held within 0 to 15.
     [[nodiscard]] static QString strn(double number, int decimals);
 
-    /// "dd/mm/yyyy"; empty for an invalid date.
+    /// "dd/mm/yyyy"; empty for an invalid date and outside the years 1 to 9999.
     [[nodiscard]] static QString dtoc(const QDate &date);
 
-    /// Reads "dd/mm/yyyy"; day and month may have one digit. An invalid date for any other text.
+    /// Reads "dd/mm/yyyy", blanks around allowed; day and month may have one digit, the year has four. An
+    /// invalid date for any other text.
     [[nodiscard]] static QDate ctod(const QString &text);
 
     /// Minutes as hour text: "8h20", "0h00", "-0h15", padded on the left with blanks to no width: a cell
@@ -28,9 +31,12 @@ public:
     /// states the widest text expected.
     [[nodiscard]] static QString fwhl(int minutes, int width);
 
-    /// Minutes of an hour text, the inverse of `fwhl`. Accepts what a person types: "8h20", "8h", "8h2"
-    /// (8h02), "8:20", "8.20", "0820", "8", with blanks around, and a leading "-". Returns `horsPlage` for
-    /// anything else, minutes above 59 included, so that the range rules refuse it.
+    /// Minutes of an hour text, the inverse of `fwhl` for every int: "152h30" and "-0h15" come back as they
+    /// went. Accepts what a person types: "8h20", "08h20", "8h", "8h2" (one digit is the minutes as such:
+    /// 8h02), "8:20", "8.20", "8,20", "0820", "820", "8", an upper-case "H", blanks around, a leading "-".
+    /// An hour past the day is read all the same ("24h00" is 1440, "25h00" is 1500): refusing it is the
+    /// range rule's part. Returns `horsPlage` for anything else, minutes above 59 and digits of other
+    /// scripts included, so that the range rules refuse it.
     [[nodiscard]] static int valhor(const QString &text);
 
     /// What `valhor` returns for a text that is no hour: outside 0 to 1440.
