@@ -179,11 +179,14 @@ void FieldWiring::loseFocus(Qt::FocusReason reason)
     if (!m_away && m_hooks.focusLost) m_hooks.focusLost();
 }
 
-void FieldWiring::click(QEvent *event)
+bool FieldWiring::click(QMouseEvent *event)
 {
-    m_field->event(event);
+    if (event->button() != Qt::LeftButton) return false;
+    m_field->event(
+        event); // first, so that the field doesn't hand our selection to the system's own clipboard
     selectAsAsked(u"CK");
     m_justFocused = false;
+    return true;
 }
 
 bool FieldWiring::keyDown(quint16 code)
@@ -197,7 +200,8 @@ bool FieldWiring::keyDown(quint16 code)
 void FieldWiring::insertFromClipboard()
 {
     const int room = m_rules.length - int(m_field->text().size()) + m_field->selectionLength();
-    m_field->insert(admissible(m_rules.type, room, QGuiApplication::clipboard()->text()));
+    const QString text = admissible(m_rules.type, room, QGuiApplication::clipboard()->text());
+    if (!text.isEmpty()) m_field->insert(text); // inserting nothing would still delete the selection
 }
 
 void FieldWiring::keyPress(QKeyEvent *event)
@@ -239,7 +243,7 @@ bool FieldWiring::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::FocusIn: gainFocus(static_cast<QFocusEvent *>(event)->reason()); return false;
     case QEvent::FocusOut: loseFocus(static_cast<QFocusEvent *>(event)->reason()); return false;
-    case QEvent::MouseButtonRelease: click(event); return true;
+    case QEvent::MouseButtonRelease: return click(static_cast<QMouseEvent *>(event));
     case QEvent::KeyPress: return key(static_cast<QKeyEvent *>(event));
     default: return false;
     }

@@ -8,6 +8,7 @@
 
 class QKeyEvent;
 class QLineEdit;
+class QMouseEvent;
 class QWidget;
 
 namespace velmora
@@ -20,13 +21,13 @@ using FieldStep = std::function<QWidget *()>;
 struct FieldHooks {
     /// The focus has come to the field, before "GF". Not on the return from a popup, a menu or another
     /// window.
-    std::function<void()> focusGained;
+    std::function<void()> focusGained{};
     /// The focus has gone to another field. Not when a popup, a menu or another window takes it.
-    std::function<void()> focusLost;
+    std::function<void()> focusLost{};
     /// A key of `fieldkey` goes down without Shift, Ctrl, Alt or Meta. True swallows it before "KD".
-    std::function<bool(quint16 key)> beforeKeyDown;
+    std::function<bool(quint16 key)> beforeKeyDown{};
     /// The field has handled a key press, text and all.
-    std::function<void()> afterKeyPress;
+    std::function<void()> afterKeyPress{};
 };
 
 /// Passes a field's click, focus and keys to `gestext` and does what it answers. Lives as long as its field.
@@ -62,7 +63,7 @@ private:
     void move(FieldMove direction);
     void gainFocus(Qt::FocusReason reason);
     void loseFocus(Qt::FocusReason reason);
-    void click(QEvent *event);
+    bool click(QMouseEvent *event);
     bool key(QKeyEvent *event);
     bool keyDown(quint16 code);
     void keyPress(QKeyEvent *event);
