@@ -1,0 +1,247 @@
+#include "journal/recording.h"
+
+#include "session/batch.h"
+#include "session/guards.h"
+#include "session/opening.h"
+
+#include <QCoreApplication>
+
+namespace velmora
+{
+
+using store::Cmp;
+using store::Status;
+
+namespace
+{
+
+const QString avant = QStringLiteral("A");
+const QString apres = QStringLiteral("P");
+const QString changee = QStringLiteral("E");
+const QString ajoutee = QStringLiteral("A");
+const QString supprimee = QStringLiteral("D");
+
+/// Lets timers and other commands run: one of them may be what holds the table.
+void pauseEvenements()
+{
+    constexpr int tours = 100;
+    for (int i = 0; i < tours; ++i)
+        QCoreApplication::processEvents();
+}
+
+/// Changes the current `logop` row as `change` says. Failures are passed over.
+template <class Change> void modifieOperation(Session &session, Change &&change)
+{
+    auto &logop = session.journal.logop;
+    if (!editgarde(session, logop).ok()) return;
+    change(logop.values());
+    if (!logop.update().ok()) logop.cancelUpdate();
+}
+
+void remplitCase(Session &session, const QString &ficop, const QString &libop)
+{
+    modifieOperation(session, [&](Operation &operation) {
+        operation.valop = true;
+        operation.nivop = 0;
+        operation.ficop = ficop;
+        operation.libop = libop;
+        operation.ordop = 1;
+    });
+}
+
+int remetAnneau(Session &session)
+{
+    if (session.journal.logop.first()) {
+        modifieOperation(session, [&](Operation &tete) {
+            tete.ordop = 0;
+            tete.nivop = session.nblog;
+        });
+    }
+    session.peutannul = false;
+    session.peutrefaire = false;
+    return 0;
+}
+
+/// The head row of a new operation. The test is on more than one undone operation, not on one or more, and
+/// the former count of free levels is then dropped: it may fall below the count of free slots. Both are
+/// wanted; no operation is lost by it.
+void avanceTete(Session &session, int annulees)
+{
+    modifieOperation(session, [annulees](Operation &tete) {
+        tete.nivop = annulees > 1 ? annulees - 1 : std::max(tete.nivop - 1, 0);
+        tete.ordop = 0;
+    });
+}
+
+/// Walks the slots in their order, ages those in force, renumbers the free ones and takes one. Returns the
+/// taken slot's `numop`.
+int prendCase(Session &session, int annulees, const QString &ficop, const QString &libop)
+{
+    auto &logop = session.journal.logop;
+    const int vieillit = 1 - annulees;
+    int libre = annulees - 1;
+    bool cherche = true;
+    int prise = 0;
+    while (logop.next()) {
+        const Operation operation = logop.row();
+        if (cherche && !operation.valop) {
+            cherche = false;
+            prise = operation.numop;
+            remplitCase(session, ficop, libop);
+        } else if (operation.valop && operation.ordop + vieillit > session.nblog) {
+            prise = operation.numop;
+            remplitCase(session, ficop, libop);
+        } else if (operation.valop) {
+            modifieOperation(session, [vieillit](Operation &suivie) { suivie.ordop += vieillit; });
+        } else {
+            modifieOperation(session, [&](Operation &suivie) { suivie.ordop = session.nblog - libre + 1; });
+            --libre;
+        }
+    }
+    return prise;
+}
+
+template <class Image> void purgeImages(Session &session, store::Table<Image> &images, int numop)
+{
+    bool found = images.seek(Cmp::Ge, {numop});
+    while (found && images.row().rang.numop == numop) {
+        if (!supprgarde(session, images).ok()) return;
+        found = images.next();
+    }
+}
+
+/// Writes an image under the next rank of the operation being recorded. `copie` copies the row in.
+template <class Image, class Copie>
+void ajouteImage(Session &session, store::Table<Image> &images, const QString &avap, const QString &foncop,
+                 Copie &&copie)
+{
+    if (session.opcour == 0) return;
+    ++session.nivcour;
+    if (images.seek(Cmp::Eq, {session.opcour, session.nivcour})) supprgarde(session, images).ignore();
+    if (!ajoutgarde(session, images).ok()) return;
+    Image &image = images.values();
+    image.rang = {session.opcour, session.nivcour, avap, foncop};
+    copie(image);
+    if (!images.update().ok()) images.cancelUpdate();
+}
+
+void imagesit(Session &session, const QString &avap, const QString &foncop)
+{
+    ajouteImage(session, session.journal.sitlog, avap, foncop, [&](ImageSit &image) {
+        image.jour = session.base.sitper.row();
+        // Recording never fills this field, so that a replay writes its empty value. Wanted.
+        image.jour.babs = false;
+    });
+}
+
+void imageabs(Session &session, const QString &avap, const QString &foncop)
+{
+    ajouteImage(session, session.journal.logabs, avap, foncop,
+                [&](ImageAbs &image) { image.absence = session.base.absences.row(); });
+}
+
+} // namespace
+
+int ecritop(Session &session, const QString &ficop, const QString &libop)
+{
+    if (ficop == ficopRemise) return remetAnneau(session);
+    auto &logop = session.journal.logop;
+    session.peutannul = true;
+    if (!logop.first()) return session.opcour = 0;
+    const int annulees = logop.row().ordop;
+    avanceTete(session, annulees);
+    const int prise = prendCase(session, annulees, ficop, libop);
+    purgeop(session, prise);
+    if (!session.collage) videsitco(session);
+    session.nivcour = 0;
+    return session.opcour = prise;
+}
+
+void purgeop(Session &session, int numop)
+{
+    purgeImages(session, session.journal.sitlog, numop);
+    purgeImages(session, session.journal.logabs, numop);
+}
+
+Status editsit(Session &session)
+{
+    imagesit(session, avant, changee);
+    session.foncsit = changee;
+    attendlibre(session, session.base.sitper, questionDisque(), pauseEvenements);
+    return session.base.sitper.edit();
+}
+
+Status ajoutsit(Session &session)
+{
+    session.foncsit = ajoutee;
+    attendlibre(session, session.base.sitper, questionDisque(), pauseEvenements);
+    return session.base.sitper.addNew();
+}
+
+Status supprsit(Session &session)
+{
+    imagesit(session, avant, supprimee);
+    // This wait alone runs empty, without the events. Wanted.
+    attendlibre(session, session.base.sitper, questionDisque(), pauseSeche);
+    return session.base.sitper.erase();
+}
+
+Status majsit(Session &session)
+{
+    auto &sitper = session.base.sitper;
+    const Status ecrit = sitper.update();
+    if (!ecrit.ok()) return ecrit;
+    if (sitper.goTo(sitper.lastModified())) imagesit(session, apres, session.foncsit);
+    return sitper.status();
+}
+
+Status editabs(Session &session)
+{
+    imageabs(session, avant, changee);
+    session.foncabs = changee;
+    attendlibre(session, session.base.absences, questionDisque(), pauseEvenements);
+    return session.base.absences.edit();
+}
+
+Status ajoutabs(Session &session)
+{
+    session.foncabs = ajoutee;
+    attendlibre(session, session.base.absences, questionDisque(), pauseEvenements);
+    return session.base.absences.addNew();
+}
+
+Status supprabs(Session &session)
+{
+    imageabs(session, avant, supprimee);
+    attendlibre(session, session.base.absences, questionDisque(), pauseEvenements);
+    return session.base.absences.erase();
+}
+
+Status majabs(Session &session)
+{
+    auto &absences = session.base.absences;
+    const Status ecrit = absences.update();
+    if (!ecrit.ok()) return ecrit;
+    if (absences.goTo(absences.lastModified())) imageabs(session, apres, session.foncabs);
+    return absences.status();
+}
+
+Status valsit(Session &session, int nump, const QDate &premier, const QDate &dernier, bool valeur)
+{
+    auto &sitper = session.base.sitper;
+    sitper.setIndex("sitper01");
+    for (QDate jour = premier; jour <= dernier; jour = jour.addDays(1)) {
+        if (!sitper.seek(Cmp::Eq, {nump, jour})) {
+            if (!sitper.status().ok()) return sitper.status();
+            continue;
+        }
+        Status status = editgarde(session, sitper);
+        if (!status.ok()) return status;
+        sitper.values().Val = valeur;
+        status = sitper.update();
+        if (!status.ok()) return status;
+    }
+    return {};
+}
+
+} // namespace velmora

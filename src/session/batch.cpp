@@ -1,0 +1,104 @@
+#include "session/batch.h"
+
+#include "session/guards.h"
+
+namespace velmora
+{
+
+using store::Engine;
+using store::Status;
+
+Batch::Batch(Session &session) : m_session(session)
+{
+    m_session.batch = this;
+}
+
+Batch::~Batch()
+{
+    rollback();
+    m_session.batch = nullptr;
+}
+
+Status Batch::begin()
+{
+    const Status status = m_session.base.engine.begin(Engine::Transaction::Write);
+    if (status.ok()) m_session.journal.engine.begin(Engine::Transaction::Write).ignore();
+    return status;
+}
+
+Status Batch::commit()
+{
+    if (m_session.journal.engine.inTransaction() && !m_session.journal.engine.commit().ok())
+        m_session.journal.engine.rollback();
+    return m_session.base.engine.inTransaction() ? m_session.base.engine.commit() : Status{};
+}
+
+void Batch::rollback()
+{
+    m_session.base.engine.rollback();
+    m_session.journal.engine.rollback();
+}
+
+Batch::Pause::Pause(Batch *batch) : m_batch(batch)
+{
+    if (m_batch) m_batch->commit().ignore();
+}
+
+Batch::Pause::~Pause()
+{
+    if (m_batch) m_batch->begin().ignore();
+}
+
+BatchStep::BatchStep(Session &session) : m_engine(session.base.engine)
+{
+    if (m_engine.inTransaction()) m_engine.execute(QStringLiteral("SAVEPOINT etape")).ignore();
+}
+
+BatchStep::~BatchStep()
+{
+    if (!m_kept && m_engine.inTransaction())
+        m_engine.execute(QStringLiteral("ROLLBACK TO etape; RELEASE etape")).ignore();
+}
+
+void BatchStep::keep()
+{
+    if (m_engine.inTransaction()) m_engine.execute(QStringLiteral("RELEASE etape")).ignore();
+    m_kept = true;
+}
+
+QString questionDisque()
+{
+    return QStringLiteral("Problème accès disque! réessayer ?");
+}
+
+void enLot(Session &session, const std::function<Status()> &work)
+{
+    for (;;) {
+        Status status;
+        {
+            Batch batch(session);
+            status = batch.begin();
+            if (status.ok()) status = work();
+            const Status committed = batch.commit();
+            if (status.ok()) status = committed;
+        }
+        if (status.ok()) return;
+        session.base.sitper.cancelUpdate();
+        session.base.absences.cancelUpdate();
+        const bool busy = status.code() == Status::Code::Busy;
+        if (!session.host.question(busy ? questionBloquage() : questionDisque(), titre))
+            session.host.endProcess();
+    }
+}
+
+ReadPass::ReadPass(Engine &engine)
+{
+    if (!engine.inTransaction() && engine.begin(Engine::Transaction::Read).ok()) m_engine = &engine;
+}
+
+ReadPass::~ReadPass()
+{
+    if (m_engine && !m_engine->commit().ok()) m_engine->rollback();
+}
+
+} // namespace velmora

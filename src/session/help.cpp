@@ -1,0 +1,23 @@
+#include "session/help.h"
+
+#include <QFileInfo>
+
+namespace velmora
+{
+
+void ouvreaide(Session &session, const QString &page)
+{
+    QString &courante = session.pagecourante;
+    if (courante.isEmpty()) courante = QStringLiteral("sommaire.htm");
+    if (!page.isEmpty()) courante = page;
+    for (const QString &dossier : {QString(), session.cheminjournal})
+        if (QFileInfo(dossier + courante).isFile()) return lanceassocie(session, dossier + courante);
+    lanceassocie(session, session.urlaide + courante);
+}
+
+void lanceassocie(Session &session, const QString &cible)
+{
+    session.host.open(cible);
+}
+
+} // namespace velmora

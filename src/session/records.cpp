@@ -1,0 +1,55 @@
+#include "session/records.h"
+
+namespace velmora
+{
+
+using store::Cmp;
+
+namespace
+{
+
+constexpr qsizetype longueurCode = 2;
+
+} // namespace
+
+bool jourferie(Session &session, const QDate &date)
+{
+    auto &ferie = session.base.ferie;
+    ferie.setIndex("ferie01");
+    return ferie.seek(Cmp::Eq, {date});
+}
+
+void jeuaudate(Session &session, const QDate &date)
+{
+    auto &parcg = session.base.parcg;
+    parcg.setIndex("parcg01");
+    if (!parcg.seek(Cmp::Le, {date})) parcg.first();
+}
+
+bool absjour(Session &session, int nump, const QDate &date)
+{
+    session.base.absences.setIndex("abs01");
+    return absjourDans(session.base.absences, nump, date);
+}
+
+bool absproche(Session &session, int nump, const QDate &date)
+{
+    auto &absences = session.base.absences;
+    absences.setIndex("abs01");
+    if (absences.seek(Cmp::Lt, {nump, date}) && absences.row().nump == nump) return true;
+    return absences.seek(Cmp::Ge, {nump, date}) && absences.row().nump == nump;
+}
+
+QString codeAligne(const QString &code)
+{
+    return code.trimmed().rightJustified(longueurCode, QLatin1Char(' '));
+}
+
+bool cherchecode(Session &session, const QString &code)
+{
+    auto &codabs = session.base.codabs;
+    codabs.setIndex("codabs01");
+    return codabs.seek(Cmp::Eq, {codeAligne(code)});
+}
+
+} // namespace velmora

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "session/guards.h"
+#include "session/session.h"
+
+#include <vector>
+
+namespace velmora
+{
+
+/// Whether a holiday row has the date as `datedeb`. The `ferie` table stays on the found row.
+[[nodiscard]] bool jourferie(Session &session, const QDate &date);
+
+/// Puts `parcg` on the set in force at the date, or failing that on the oldest set.
+void jeuaudate(Session &session, const QDate &date);
+
+/// Deletes every row of a table, from the first to the end.
+template <class Row> void videtable(Session &session, store::Table<Row> &table)
+{
+    for (bool found = table.first(); found; found = table.next())
+        if (!supprgarde(session, table).ok()) return;
+}
+
+/// Where the search for an absence looks: the table itself, or a line's spans in memory. Both seek by (line,
+/// first date) and leave the found span as `row`.
+template <class Source> [[nodiscard]] bool absjourDans(Source &source, int nump, const QDate &date)
+{
+    using store::Cmp;
+    const auto couvre = [&] {
+        const AbsenceSaisie &absence = source.row();
+        return absence.nump == nump && absence.datedeb <= date && absence.datefin >= date;
+    };
+    if (source.seek(Cmp::Lt, {nump, date.addDays(1)}) && couvre()) return true;
+    return source.seek(Cmp::Ge, {nump, date}) && couvre();
+}
+
+/// Whether a line has an absence on a date; leaves `absences` on it.
+[[nodiscard]] bool absjour(Session &session, int nump, const QDate &date);
+
+/// Puts `absences` where a walk of the line's absences from a date starts: on the last span that begins
+/// before it, else on the first one after. False when the line has none there.
+[[nodiscard]] bool absproche(Session &session, int nump, const QDate &date);
+
+/// A code as `codabs` holds it: two characters, a single letter after a blank. An absence entered with one
+/// letter is stored without the blank and must still find its code.
+[[nodiscard]] QString codeAligne(const QString &code);
+
+/// Puts `codabs` on a code. False when there is none.
+[[nodiscard]] bool cherchecode(Session &session, const QString &code);
+
+} // namespace velmora

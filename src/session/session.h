@@ -1,0 +1,75 @@
+#pragma once
+
+#include "foncgen/foncgen.h"
+#include "session/host.h"
+#include "store/databases.h"
+
+#include <memory>
+
+namespace velmora
+{
+
+class Batch;
+
+/// One workstation's session: the session values, the two databases, the general-function object and the
+/// host. Nothing of it is global, so that two sessions can run side by side in one process. Values are
+/// plain members: each is written where its comment says and read by whoever needs it.
+struct Session {
+    explicit Session(Host &theHost) : host(theHost) {}
+    Session(const Session &) = delete;
+    Session &operator=(const Session &) = delete;
+
+    Host &host;
+
+    // Who and where.
+    QString pseudo;
+    QString cheminjournal; ///< folder of the journal, also the one that `velmora.mdb` is opened in
+    QString cheminbase;    ///< folder that the journal names for the main database
+    QString urlaide;       ///< help site with its path
+    QString pagecourante;  ///< the session's current help page
+
+    // Read at login; nothing depends on them.
+    QString nomUtilisateur;
+    int droitUtilisateur = 0;
+    int mesUtilisateur = 0;
+
+    // The calendar's window, both dates included.
+    QDate datemin;
+    QDate datemax;
+
+    // What is shown.
+    bool totcent = false;    ///< totals in hundredths of an hour
+    int modecellule = 1;     ///< 0 hours done, 1 schedule, 2 slices
+    bool moisouvert = false; ///< the month form is loaded
+    int moisvue = 0;         ///< month to open, 1 to 12
+    int anvue = 0;
+    QString dossiervue; ///< folder that filters the lines; empty for all
+    bool modeajout = false;
+    QString nometab; ///< name of the establishment, once a dialog has set it
+    Affichage affichage;
+
+    bool dlgvalide = false; ///< the last modal dialog ended by its confirm command
+
+    // What the day entry is given.
+    QString saisdeb;
+    QString saisfin;
+    QString saisnom;
+    float saisligne = 0;
+
+    // State of the journal's ring.
+    int nblog = 30;
+    bool peutannul = false;
+    bool peutrefaire = false;
+    int opcour = 0;       ///< slot of the operation being recorded; 0 records nothing
+    int nivcour = 0;      ///< rank of its last image
+    QString foncsit;      ///< row operation under way on `sitper`
+    QString foncabs;      ///< row operation under way on `absences`
+    bool collage = false; ///< a paste is running
+
+    std::unique_ptr<Foncgen> foncgen;
+    store::MainDatabase base;
+    store::JournalDatabase journal;
+    Batch *batch = nullptr; ///< the command's transaction while one runs
+};
+
+} // namespace velmora

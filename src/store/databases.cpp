@@ -1,0 +1,115 @@
+#include "store/databases.h"
+
+#include <QFile>
+
+#include <chrono>
+
+namespace velmora::store
+{
+
+namespace
+{
+
+// A workstation's second session must hear soon that the journal is taken.
+constexpr std::chrono::milliseconds journalWait{300};
+
+/// Reads each table's columns once, so that a missing one is known at the opening.
+Status checkTables(Engine &engine, const std::vector<const Schema *> &schemas)
+{
+    for (const Schema *schema : schemas) {
+        QStringList names;
+        for (const Column &column : schema->columns)
+            names << column.name;
+        const Status status = engine.execute(
+            QStringLiteral("SELECT %1 FROM %2 LIMIT 1").arg(names.join(QLatin1Char(',')), schema->table));
+        if (!status.ok()) return status;
+    }
+    return {};
+}
+
+Status checkStructure(Engine &engine)
+{
+    const auto statement = engine.prepare(QStringLiteral("PRAGMA quick_check(1)"));
+    if (!statement) return engine.status();
+    const auto step = statement->step();
+    if (step == Statement::Step::Failed) return statement->status();
+    if (step == Statement::Step::Row && statement->columnText(0) == "ok") return {};
+    return {Status::Code::Damaged, QStringLiteral("the file's structure is damaged")};
+}
+
+template <class... Tables> void releaseAll(Tables &...tables)
+{
+    (tables.cancelUpdate(), ...);
+    (tables.release(), ...);
+}
+
+} // namespace
+
+std::vector<const Schema *> MainDatabase::schemas()
+{
+    return {&schemaOf<Agent>(),     &schemaOf<Tnum>(),          &schemaOf<Veloption>(),
+            &schemaOf<JourFerie>(), &schemaOf<JeuParam>(),      &schemaOf<JourSit>(),
+            &schemaOf<Ligne>(),     &schemaOf<AbsenceSaisie>(), &schemaOf<CodeAbsence>(),
+            &schemaOf<Dossier>()};
+}
+
+Status MainDatabase::open(const QString &path)
+{
+    Status status = engine.open(path, {});
+    if (status.ok()) status = checkTables(engine, schemas());
+    if (status.ok()) status = engine.keepJournalFile();
+    if (!status.ok()) close();
+    return status;
+}
+
+void MainDatabase::close()
+{
+    releaseAll(agent, tnum, ferie, parcg, sitper, ligmois, absences, codabs, groupe);
+    engine.close();
+}
+
+std::vector<const Schema *> JournalDatabase::schemas()
+{
+    return {&schemaOf<Chemin>(), &schemaOf<ImageSit>(), &schemaOf<Operation>(), &schemaOf<ImageAbs>(),
+            &schemaOf<JourCopie>()};
+}
+
+Status JournalDatabase::open(const QString &path)
+{
+    Status status = engine.open(path, {.exclusive = true, .busyWait = journalWait});
+    if (status.ok()) status = checkStructure(engine);
+    if (status.ok()) status = checkTables(engine, schemas());
+    if (status.ok()) status = engine.keepJournalFile();
+    if (!status.ok()) close();
+    return status;
+}
+
+void JournalDatabase::close()
+{
+    releaseAll(chemin, sitlog, logop, logabs, sitco);
+    engine.close();
+}
+
+Status createTables(Engine &engine, FileKind kind)
+{
+    QStringList sql{QStringLiteral("PRAGMA application_id = %1").arg(static_cast<int>(kind)),
+                    QStringLiteral("BEGIN IMMEDIATE")};
+    const auto schemas = kind == FileKind::Main ? MainDatabase::schemas() : JournalDatabase::schemas();
+    for (const Schema *schema : schemas)
+        sql << schema->creation();
+    sql << QStringLiteral("COMMIT");
+    return engine.execute(sql.join(QLatin1Char(';')));
+}
+
+Status createDatabase(const QString &path, FileKind kind)
+{
+    if (QFile::exists(path)) return {Status::Code::CantOpen, QStringLiteral("the file is already there")};
+    SqliteEngine engine;
+    Status status = engine.open(path, {.create = true});
+    if (status.ok()) status = createTables(engine, kind);
+    engine.close();
+    if (!status.ok()) QFile::remove(path);
+    return status;
+}
+
+} // namespace velmora::store

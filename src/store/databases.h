@@ -1,0 +1,60 @@
+#pragma once
+
+#include "store/sqlite_engine.h"
+#include "store/tables.h"
+
+namespace velmora::store
+{
+
+/// Names of the two files.
+inline const QString fichierBase = QStringLiteral("velmora.mdb");
+inline const QString fichierJournal = QStringLiteral("velmoralog.mdb");
+/// Passing work file of a journal's repair.
+inline const QString fichierReparation = QStringLiteral("genvelmoralog.mdb");
+
+/// The main database: the planning that all workstations share. Its tables stay open for the session.
+struct MainDatabase {
+    SqliteEngine engine;
+    Table<Agent> agent{engine};
+    Table<Tnum> tnum{engine};
+    Table<JourFerie> ferie{engine};
+    Table<JeuParam> parcg{engine};
+    Table<JourSit> sitper{engine};
+    Table<Ligne> ligmois{engine};
+    Table<AbsenceSaisie> absences{engine};
+    Table<CodeAbsence> codabs{engine};
+    Table<Dossier> groupe{engine};
+
+    /// Opens the file and checks that every table is there with its columns.
+    [[nodiscard]] Status open(const QString &path);
+    void close();
+    /// Every table of the file, the one that is only required to exist included.
+    [[nodiscard]] static std::vector<const Schema *> schemas();
+};
+
+/// The journal database: the workstation's own file, held exclusively.
+struct JournalDatabase {
+    SqliteEngine engine;
+    Table<Chemin> chemin{engine};
+    Table<ImageSit> sitlog{engine};
+    Table<Operation> logop{engine};
+    Table<ImageAbs> logabs{engine};
+    Table<JourCopie> sitco{engine};
+
+    /// Opens the file for this session alone and checks its structure and its tables.
+    [[nodiscard]] Status open(const QString &path);
+    void close();
+    [[nodiscard]] static std::vector<const Schema *> schemas();
+};
+
+/// What marks a file as one of ours in its header.
+enum class FileKind : int { Main = 0x56454c42, Journal = 0x56454c4a };
+
+/// Makes a new, empty file with its tables and indexes. A file that is already there is left alone and is a
+/// failure; a file that can't be finished is removed.
+[[nodiscard]] Status createDatabase(const QString &path, FileKind kind);
+
+/// Makes the tables in an open, empty database.
+[[nodiscard]] Status createTables(Engine &engine, FileKind kind);
+
+} // namespace velmora::store

@@ -1,0 +1,116 @@
+#include "store/repair.h"
+
+#include "store/databases.h"
+
+#include <QFile>
+
+namespace velmora::store
+{
+
+namespace
+{
+
+constexpr qint64 headerLength = 100;
+constexpr int applicationIdOffset = 68;
+
+/// A file of the engine's format that carries the journal's mark, however damaged the rest is.
+Status checkHeader(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return {Status::Code::CantOpen, file.errorString()};
+    const QByteArray header = file.read(headerLength);
+    const Status foreign{Status::Code::NotADatabase, QStringLiteral("the file is no journal")};
+    if (header.size() < headerLength || !header.startsWith("SQLite format 3")) return foreign;
+    int mark = 0;
+    for (int i = 0; i < 4; ++i)
+        mark = mark * 256 + static_cast<unsigned char>(header[applicationIdOffset + i]);
+    return mark == static_cast<int>(FileKind::Journal) ? Status{} : foreign;
+}
+
+/// Opens the damaged file for this session alone. Damage that shows here is no obstacle, a lock is.
+Status openDamaged(SqliteEngine &engine, const QString &path)
+{
+    Status status = engine.open(path, {.readOnly = true, .busyWait = std::chrono::milliseconds(300)});
+    if (!status.ok()) return status;
+    status = engine.execute(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE"));
+    return status.code() == Status::Code::Busy ? status : Status{};
+}
+
+void copyRow(const Statement &from, Statement &to, int columns)
+{
+    for (int column = 0; column < columns; ++column) {
+        if (from.columnIsNull(column))
+            to.bindNull(column + 1);
+        else
+            to.bindText(column + 1, from.columnText(column));
+    }
+}
+
+/// The columns as they are copied: the row's own identity keeps a row read both ways from doubling.
+QString copiedColumns(const Schema &schema)
+{
+    QStringList names;
+    if (!schema.clustered) names << QStringLiteral("rowid");
+    for (const Column &column : schema.columns)
+        names << column.name;
+    return names.join(QLatin1Char(','));
+}
+
+QString readOrder(const Schema &schema, const QString &direction)
+{
+    QStringList names;
+    if (!schema.clustered) names << QStringLiteral("rowid");
+    for (const int column : schema.clustered ? schema.indexes.front().columns : std::vector<int>{})
+        names << schema.columns[static_cast<std::size_t>(column)].name;
+    return names.join(direction + QLatin1Char(',')) + direction;
+}
+
+Status salvageTable(Engine &damaged, Engine &target, const Schema &schema)
+{
+    const QString columns = copiedColumns(schema);
+    const int count = static_cast<int>(columns.count(QLatin1Char(','))) + 1;
+    const auto insert = target.prepare(
+        QStringLiteral("INSERT OR IGNORE INTO %1 (%2) VALUES (%3)")
+            .arg(schema.table, columns, QStringList(count, QStringLiteral("?")).join(QLatin1Char(','))));
+    if (!insert) return target.status();
+    for (const auto &direction : {QStringLiteral(" ASC"), QStringLiteral(" DESC")}) {
+        const auto read = damaged.prepare(QStringLiteral("SELECT %1 FROM %2 ORDER BY %3")
+                                              .arg(columns, schema.table, readOrder(schema, direction)));
+        while (read && read->step() == Statement::Step::Row) {
+            copyRow(*read, *insert, count);
+            if (insert->step() == Statement::Step::Failed) return insert->status();
+            insert->reset();
+        }
+    }
+    return {};
+}
+
+Status salvageInto(Engine &damaged, const QString &target)
+{
+    SqliteEngine engine;
+    Status status = engine.open(target, {});
+    if (status.ok()) status = engine.begin(Engine::Transaction::Write);
+    for (const Schema *schema : JournalDatabase::schemas())
+        if (status.ok()) status = salvageTable(damaged, engine, *schema);
+    if (status.ok()) status = engine.commit();
+    return status;
+}
+
+} // namespace
+
+Status salvageJournal(const QString &damaged, const QString &target)
+{
+    Status status = checkHeader(damaged);
+    if (!status.ok()) return status;
+    SqliteEngine engine;
+    status = openDamaged(engine, damaged);
+    if (!status.ok()) return status;
+    QFile::remove(target);
+    status = createDatabase(target, FileKind::Journal);
+    if (status.ok()) status = salvageInto(engine, target);
+    engine.execute(QStringLiteral("ROLLBACK")).ignore();
+    if (!status.ok()) QFile::remove(target);
+    return status;
+}
+
+} // namespace velmora::store

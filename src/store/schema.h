@@ -1,0 +1,94 @@
+#pragma once
+
+#include "store/column_types.h"
+#include "store/fields.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <string_view>
+#include <type_traits>
+#include <vector>
+
+namespace velmora::store
+{
+
+/// An index as a table declares it.
+struct IndexDef {
+    const char *name;
+    std::vector<const char *> columns;
+    bool unique = false;
+};
+
+/// What a table is beside its fields; specialised beside each row as a struct derived from
+/// `TableDefaults`, with `name` and `indexes()`. The first index is the standing one.
+struct TableDefaults {
+    /// The rows lie in the order of the first index, which is then their primary key.
+    static constexpr bool clustered = false;
+    /// Fields of the struct that the table doesn't have.
+    static constexpr bool keeps(std::string_view) { return true; }
+    /// Fields that sort as a French reader expects.
+    static constexpr bool sortsAsFrench(std::string_view) { return false; }
+};
+template <class Row> struct TableDef;
+
+struct Column {
+    QString name;
+    QString sqlType;
+    bool french = false;
+};
+
+struct Index {
+    QString name;
+    std::vector<int> columns; ///< ordinals of the columns
+    bool unique = false;
+};
+
+/// A table at run time: what its statements are made of.
+struct Schema {
+    QString table;
+    bool clustered = false;
+    std::vector<Column> columns;
+    std::vector<Index> indexes;
+
+    [[nodiscard]] int ordinal(const QString &column) const;
+    [[nodiscard]] int index(const QString &name) const; ///< -1 when there is none of that name
+    /// The statements that make the table and its indexes.
+    [[nodiscard]] QStringList creation() const;
+};
+
+/// Calls `visit(field, std::type_identity<T>{})` for each field of the row that the table keeps, in order.
+template <class Row, class Visit> void forEachColumn(Visit &&visit)
+{
+    std::apply(
+        [&visit](const auto &...field) {
+            auto one = [&visit](const auto &kept) {
+                using Value = std::remove_cvref_t<decltype(kept.get(std::declval<Row &>()))>;
+                if (TableDef<Row>::keeps(kept.name)) visit(kept, std::type_identity<Value>{});
+            };
+            (one(field), ...);
+        },
+        fieldsOf<Row>);
+}
+
+/// The columns and indexes as declared, filled in by `schemaOf`.
+void addIndexes(Schema &schema, const std::vector<IndexDef> &indexes);
+
+template <class Row> const Schema &schemaOf()
+{
+    static const Schema schema = [] {
+        Schema made;
+        made.table = QString::fromLatin1(TableDef<Row>::name);
+        made.clustered = TableDef<Row>::clustered;
+        forEachColumn<Row>([&made](const auto &field, auto type) {
+            made.columns.push_back({QString::fromLatin1(field.name),
+                                    QString::fromLatin1(ColumnType<typename decltype(type)::type>::sql),
+                                    TableDef<Row>::sortsAsFrench(field.name)});
+        });
+        addIndexes(made, TableDef<Row>::indexes());
+        return made;
+    }();
+    return schema;
+}
+
+} // namespace velmora::store

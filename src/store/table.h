@@ -1,0 +1,331 @@
+#pragma once
+
+#include "store/table_base.h"
+
+#include <utility>
+
+namespace velmora::store
+{
+
+/// Which row is meant, whatever changes around it: what a table hands out to come back to a row.
+template <class Row> class Bookmark
+{
+public:
+    Bookmark() = default;
+    Bookmark(std::int64_t rowid, Row row) : m_set(true), m_rowid(rowid), m_row(std::move(row)) {}
+
+    [[nodiscard]] bool isEmpty() const { return !m_set; }
+    [[nodiscard]] std::int64_t rowid() const { return m_rowid; }
+    [[nodiscard]] const Row &row() const { return m_row; }
+
+private:
+    bool m_set = false;
+    std::int64_t m_rowid = 0;
+    Row m_row;
+};
+
+/// The columns of a row type that a pass reads.
+template <class Row> class Columns
+{
+public:
+    using Read = void (*)(Row &, const Statement &, int);
+    using Bind = void (*)(const Row &, Statement &, int);
+
+    /// Every column of the table, in order.
+    static const std::vector<Read> &readers() { return accessors().first; }
+    static const std::vector<Bind> &binders() { return accessors().second; }
+
+    /// The columns of these members of the row.
+    template <class... Members> static std::vector<int> of(Members Row::*...members)
+    {
+        std::vector<int> ordinals;
+        (ordinals.push_back(ordinalOf(members)), ...);
+        return ordinals;
+    }
+    static std::vector<int> all()
+    {
+        std::vector<int> ordinals(readers().size());
+        for (std::size_t i = 0; i < ordinals.size(); ++i)
+            ordinals[i] = static_cast<int>(i);
+        return ordinals;
+    }
+
+private:
+    template <class Member> static int ordinalOf(Member Row::*member)
+    {
+        const Row probe{};
+        int at = 0;
+        int found = -1;
+        forEachColumn<Row>([&](const auto &field, auto) {
+            if (static_cast<const void *>(&field.get(probe)) == static_cast<const void *>(&(probe.*member)))
+                found = at;
+            ++at;
+        });
+        return found;
+    }
+
+    template <std::size_t I> static void append(std::pair<std::vector<Read>, std::vector<Bind>> &lists)
+    {
+        using FieldType = std::tuple_element_t<I, std::remove_cvref_t<decltype(fieldsOf<Row>)>>;
+        using Value = std::remove_cvref_t<decltype(std::declval<FieldType>().get(std::declval<Row &>()))>;
+        if (!TableDef<Row>::keeps(std::get<I>(fieldsOf<Row>).name)) return;
+        lists.first.push_back([](Row &row, const Statement &statement, int column) {
+            std::get<I>(fieldsOf<Row>).get(row) = ColumnType<Value>::read(statement, column);
+        });
+        lists.second.push_back([](const Row &row, Statement &statement, int position) {
+            ColumnType<Value>::bind(statement, position, std::get<I>(fieldsOf<Row>).get(row));
+        });
+    }
+
+    static const std::pair<std::vector<Read>, std::vector<Bind>> &accessors()
+    {
+        static const auto lists = []<std::size_t... I>(std::index_sequence<I...>)
+        {
+            std::pair<std::vector<Read>, std::vector<Bind>> made;
+            (append<I>(made), ...);
+            return made;
+        }
+        (std::make_index_sequence<std::tuple_size_v<std::remove_cvref_t<decltype(fieldsOf<Row>)>>>{});
+        return lists;
+    }
+};
+
+/// A run of rows read in one pass, forward. The table's current row doesn't move. At most one pass over the
+/// same run of columns and bounds is open at a time.
+template <class Row> class Rows
+{
+public:
+    Rows(Statement *statement, std::vector<int> columns)
+        : m_statement(statement), m_columns(std::move(columns))
+    {
+    }
+    Rows(Rows &&other) noexcept
+        : m_statement(std::exchange(other.m_statement, nullptr)), m_columns(std::move(other.m_columns)),
+          m_row(std::move(other.m_row))
+    {
+    }
+    Rows &operator=(Rows &&) = delete;
+    ~Rows()
+    {
+        if (m_statement) m_statement->reset();
+    }
+
+    /// Reads the next row; false at the end and on a failure.
+    [[nodiscard]] bool next()
+    {
+        if (!m_statement || m_statement->step() != Statement::Step::Row) return false;
+        for (std::size_t i = 0; i < m_columns.size(); ++i)
+            Columns<Row>::readers()[static_cast<std::size_t>(m_columns[i])](m_row, *m_statement,
+                                                                            static_cast<int>(i));
+        return true;
+    }
+    /// The row read last; fields that the pass doesn't read keep their empty values.
+    [[nodiscard]] const Row &row() const { return m_row; }
+    [[nodiscard]] Status status() const
+    {
+        return m_statement ? m_statement->status() : Status{Status::Code::Misuse, {}};
+    }
+
+private:
+    Statement *m_statement;
+    std::vector<int> m_columns;
+    Row m_row;
+};
+
+/// A table with a current row and a current index, as the procedures walk and change it. A step to the next
+/// row is a seek past the current key, so a walk is right while rows change under it.
+template <class Row> class Table : public TableBase
+{
+public:
+    explicit Table(Engine &engine) : TableBase(engine, schemaOf<Row>()) {}
+
+    /// Looks for a row by a comparison on the whole key of the current index or its first columns. True when
+    /// there is one, which becomes current; else the current row stays, and `status` tells a failure.
+    bool seek(Cmp comparison, const Key &key)
+    {
+        Slot &statement = seekStatement(comparison, key.size());
+        if (!statement) return false;
+        int position = 0;
+        for (const KeyValue &value : key)
+            value.bind(*statement, ++position);
+        return take(statement);
+    }
+
+    bool first() { return takeFrom(endStatement(true)); }
+    bool last() { return takeFrom(endStatement(false)); }
+    /// The row after or before the current one in the order of the index. At the end there is no current
+    /// row until the next seek, and `atEnd` is true.
+    bool next() { return stepTo(true); }
+    bool previous() { return stepTo(false); }
+    [[nodiscard]] bool atEnd() const { return m_atEnd; }
+    [[nodiscard]] bool hasRow() const { return m_hasRow; }
+
+    /// The current row, or the values of the edit while one is under way.
+    [[nodiscard]] const Row &row() const { return m_editMode == EditMode::None ? m_current : m_buffer; }
+    /// The values to write, only between `edit` or `addNew` and `update`.
+    [[nodiscard]] Row &values() { return m_buffer; }
+
+    /// Begins a change of the current row, read again from the file.
+    Status edit()
+    {
+        if (!m_hasRow || !reread(m_rowid, m_current)) return m_status = noRow();
+        m_buffer = m_current;
+        m_editMode = EditMode::InProgress;
+        return m_status;
+    }
+    /// Begins a new row with empty values.
+    Status addNew()
+    {
+        m_buffer = Row{};
+        m_editMode = EditMode::Add;
+        return m_status = {};
+    }
+    Status update() override
+    {
+        if (m_editMode == EditMode::None) return m_status = {Status::Code::Misuse, QStringLiteral("no edit")};
+        const bool adding = m_editMode == EditMode::Add;
+        const Status outcome = adding ? insert() : rewrite();
+        m_updatePending = !outcome.ok();
+        if (!outcome.ok()) return m_status = outcome;
+        m_editMode = EditMode::None;
+        m_lastModified = {adding ? m_engine.lastInsertedRow() : m_rowid, m_buffer};
+        if (!adding) m_current = m_buffer;
+        return m_status = outcome;
+    }
+    /// Deletes the current row. A step from it still goes to its neighbours.
+    Status erase()
+    {
+        if (!m_hasRow) return m_status = noRow();
+        Slot &statement = deleteStatement();
+        if (!statement) return m_status;
+        bindIdentity(*statement, 0, m_rowid, m_current);
+        Status outcome = changedOne(statement);
+        if (outcome.ok()) m_hasRow = false;
+        return outcome;
+    }
+
+    /// The row that `update` wrote last; empty before the first.
+    [[nodiscard]] const Bookmark<Row> &lastModified() const { return m_lastModified; }
+    [[nodiscard]] Bookmark<Row> bookmark() const
+    {
+        return m_hasRow ? Bookmark<Row>(m_rowid, m_current) : Bookmark<Row>();
+    }
+    /// Makes the row of a bookmark current. False when it is gone.
+    bool goTo(const Bookmark<Row> &mark)
+    {
+        if (mark.isEmpty()) return false;
+        return reread(mark.rowid(), mark.row());
+    }
+
+    /// Reads the rows from one key to another, both included, in the order of an index. An empty key leaves
+    /// that side open.
+    [[nodiscard]] Rows<Row> range(const char *indexName, const Key &from, const Key &to,
+                                  const std::vector<int> &columns = Columns<Row>::all())
+    {
+        Slot &statement =
+            rangeStatement(m_schema.index(QString::fromLatin1(indexName)), from.size(), to.size(), columns);
+        if (!statement) return {nullptr, columns};
+        int position = 0;
+        for (const Key *bound : {&from, &to})
+            for (const KeyValue &value : *bound)
+                value.bind(*statement, ++position);
+        return {statement.get(), columns};
+    }
+
+private:
+    static Status noRow() { return {Status::Code::NoRow, QStringLiteral("no current row")}; }
+
+    bool takeFrom(Slot &statement) { return statement && take(statement); }
+
+    bool take(Slot &statement)
+    {
+        const auto step = statement->step();
+        m_status = step == Statement::Step::Failed ? statement->status() : Status{};
+        if (step == Statement::Step::Row) {
+            m_rowid = statement->columnInt(0);
+            int column = 0;
+            for (const auto &read : Columns<Row>::readers())
+                read(m_current, *statement, ++column);
+            m_hasRow = true;
+            m_atEnd = false;
+        }
+        statement->reset();
+        return step == Statement::Step::Row;
+    }
+
+    bool stepTo(bool forward)
+    {
+        Slot &statement = stepStatement(forward);
+        if (!statement) return false;
+        int position = 0;
+        for (const int column : index().columns)
+            bindColumn(*statement, ++position, column, m_current);
+        if (!m_schema.clustered) statement->bindInt(++position, m_rowid);
+        const bool found = take(statement);
+        if (!found) {
+            m_hasRow = false;
+            m_atEnd = true;
+        }
+        return found;
+    }
+
+    static void bindColumn(Statement &statement, int position, int column, const Row &row)
+    {
+        Columns<Row>::binders()[static_cast<std::size_t>(column)](row, statement, position);
+    }
+
+    void bindIdentity(Statement &statement, int position, std::int64_t rowid, const Row &row)
+    {
+        if (!m_schema.clustered) return statement.bindInt(position + 1, rowid);
+        for (const int column : primary().columns)
+            bindColumn(statement, ++position, column, row);
+    }
+
+    int bindAll(Statement &statement)
+    {
+        int position = 0;
+        for (const auto &bind : Columns<Row>::binders())
+            bind(m_buffer, statement, ++position);
+        return position;
+    }
+
+    bool reread(std::int64_t rowid, const Row &row)
+    {
+        Slot &statement = rereadStatement();
+        if (!statement) return false;
+        bindIdentity(*statement, 0, rowid, row);
+        return take(statement);
+    }
+
+    Status changedOne(Slot &statement)
+    {
+        const Status outcome = run(statement);
+        if (outcome.ok() && m_engine.changedRows() == 0) return m_status = noRow();
+        return outcome;
+    }
+
+    Status insert()
+    {
+        Slot &statement = insertStatement();
+        if (!statement) return m_status;
+        bindAll(*statement);
+        return run(statement);
+    }
+
+    Status rewrite()
+    {
+        Slot &statement = updateStatement();
+        if (!statement) return m_status;
+        bindIdentity(*statement, bindAll(*statement), m_rowid, m_current);
+        return changedOne(statement);
+    }
+
+    Row m_current;
+    Row m_buffer;
+    std::int64_t m_rowid = 0;
+    bool m_hasRow = false;
+    bool m_atEnd = false;
+    Bookmark<Row> m_lastModified;
+};
+
+} // namespace velmora::store

@@ -1,0 +1,105 @@
+#pragma once
+
+#include "store/schema.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <variant>
+
+namespace velmora::store
+{
+
+/// How a sought key compares with the rows: the first row at or after it, or the last one before it.
+enum class Cmp { Eq, Ge, Gt, Le, Lt };
+
+/// Whether a change is under way on a table, as the guards ask it.
+enum class EditMode { None, InProgress, Add };
+
+/// A value sought in an index.
+class KeyValue
+{
+public:
+    KeyValue(int value) : m_value(static_cast<std::int64_t>(value)) {}
+    KeyValue(const QDate &value) : m_value(value) {}
+    KeyValue(QString value) : m_value(std::move(value)) {}
+
+    void bind(Statement &statement, int position) const;
+
+private:
+    std::variant<std::int64_t, QDate, QString> m_value;
+};
+/// A whole key of an index or its first columns.
+using Key = std::vector<KeyValue>;
+
+/// The part of a table that doesn't depend on its row's type: the current index and the statements, made
+/// once each and kept for the table's life.
+class TableBase
+{
+public:
+    TableBase(Engine &engine, const Schema &schema) : m_engine(engine), m_schema(schema) {}
+    TableBase(const TableBase &) = delete;
+    TableBase &operator=(const TableBase &) = delete;
+    virtual ~TableBase() = default;
+
+    /// Makes an index of the table current. A name that isn't one of its indexes changes nothing.
+    void setIndex(const char *name);
+    [[nodiscard]] QString currentIndex() const;
+
+    [[nodiscard]] EditMode editMode() const { return m_editMode; }
+    /// The last operation on the table: tells a row that isn't there from a failure of the engine.
+    [[nodiscard]] const Status &status() const { return m_status; }
+    /// Count of rows; 0 on a failure.
+    [[nodiscard]] int recordCount();
+    [[nodiscard]] bool isEmpty();
+    /// Whether an update failed and its values still wait in the edit.
+    [[nodiscard]] bool updatePending() const { return m_updatePending; }
+    /// Writes the values of the edit or of the new row. After a failure the edit stays as it is.
+    virtual Status update() = 0;
+    /// Drops the edit or the new row.
+    void cancelUpdate();
+    /// Drops the statements, so that the database can be closed.
+    void release() { m_statements.clear(); }
+
+protected:
+    using Slot = std::unique_ptr<Statement>;
+
+    /// A row's place: which row it is for the engine. Clustered tables are known by their key instead.
+    [[nodiscard]] Slot &seekStatement(Cmp comparison, std::size_t parts);
+    [[nodiscard]] Slot &stepStatement(bool forward);
+    [[nodiscard]] Slot &endStatement(bool forward);
+    [[nodiscard]] Slot &rangeStatement(int index, std::size_t fromParts, std::size_t toParts,
+                                       const std::vector<int> &columns);
+    [[nodiscard]] Slot &rereadStatement();
+    [[nodiscard]] Slot &insertStatement();
+    [[nodiscard]] Slot &updateStatement();
+    [[nodiscard]] Slot &deleteStatement();
+
+    [[nodiscard]] const Index &index() const { return m_schema.indexes[static_cast<std::size_t>(m_index)]; }
+    [[nodiscard]] const Index &primary() const { return m_schema.indexes.front(); }
+    /// Columns that say which row is meant, in the order in which they are bound.
+    [[nodiscard]] Status run(Slot &statement);
+
+    Engine &m_engine;
+    const Schema &m_schema;
+    int m_index = 0;
+    EditMode m_editMode = EditMode::None;
+    bool m_updatePending = false;
+    Status m_status;
+
+private:
+    [[nodiscard]] Slot &prepared(const QString &sql);
+    [[nodiscard]] QString selectAll() const;
+    [[nodiscard]] QString columnName(int column, bool sorted) const;
+    [[nodiscard]] QStringList orderColumns(const Index &index) const;
+    [[nodiscard]] QString order(const Index &index, bool forward) const;
+    [[nodiscard]] QString identity() const;
+    [[nodiscard]] int scalar(const QString &sql);
+
+    std::map<QString, Slot> m_statements;
+    std::map<std::int64_t, Slot *> m_shortcuts;
+
+    template <class MakeSql> Slot &cached(std::int64_t shortcut, MakeSql &&makeSql);
+};
+
+} // namespace velmora::store
