@@ -10,6 +10,8 @@ namespace velmora
 namespace
 {
 
+constexpr int margeCote = 8;
+constexpr int margeHaut = 3;
 constexpr QSize tailleIdeale(576, 64);
 constexpr QSize tailleMinimale(360, 56);
 
@@ -41,14 +43,14 @@ QSize HourBarView::minimumSizeHint() const
 
 QRectF HourBarView::place() const
 {
-    return QRectF(rect()).adjusted(1, 0, -1, 0);
+    return QRectF(rect()).adjusted(margeCote, margeHaut, -margeCote, -margeHaut);
 }
 
 QPixmap HourBarView::echelle(bool nuit) const
 {
     QPixmap image(size() * devicePixelRatioF());
     image.setDevicePixelRatio(devicePixelRatioF());
-    image.fill(Qt::transparent);
+    image.fill(Qt::white); // whatever the desktop's theme: the bar's colours are made for it
     QPainter painter(&image);
     painter.setFont(font());
     peintEchelle(painter, place(), nuit ? echellenuit() : echellejour(), m_echelle);

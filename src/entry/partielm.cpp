@@ -1,7 +1,9 @@
 #include "entry/partielm.h"
 
+#include "entry/derivation.h"
 #include "entry/hour_bar_view.h"
 #include "foncgen/field_wiring.h"
+#include "session/help.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -27,7 +29,7 @@ constexpr auto attenteJourExistant = 300ms;
 constexpr auto attenteJourNouveau = 5ms;
 constexpr auto attenteTouches = 3000ms;
 
-constexpr QColor couleurHeures(0xcf, 0xe5, 0xf7);
+constexpr QColor couleurHeures(0xc6, 0xe0, 0xf5);
 constexpr QColor couleurEchelle(0x3d, 0x4f, 0x60);
 constexpr QColor couleurFermee(0xe3, 0xe5, 0xe8);
 constexpr QColor couleurTexte(0x1b, 0x27, 0x33);
@@ -70,8 +72,8 @@ QColor fondDe(const QWidget *widget)
 
 } // namespace
 
-Partielm::Partielm(JourneeSaisie journee, Actions actions, QWidget *parent)
-    : QDialog(parent), m_journee(std::move(journee)), m_actions(std::move(actions))
+Partielm::Partielm(Session &session, Ecrihor ecrihor, QWidget *parent)
+    : QDialog(parent), m_session(session), m_ecrihor(std::move(ecrihor)), m_journee(journeeSaisie(session))
 {
     construit();
     dispose();
@@ -139,6 +141,7 @@ void Partielm::dispose()
     milieu->addLayout(disposeTranches());
     milieu->addStretch(1);
     milieu->addLayout(disposeTotal());
+    milieu->addStretch(1);
     auto *const page = new QVBoxLayout(this);
     page->setSpacing(14);
     page->setContentsMargins(18, 16, 18, 14);
@@ -155,8 +158,6 @@ QLayout *Partielm::disposeTitres()
     gras.setBold(true);
     gras.setPointSizeF(gras.pointSizeF() * 1.2);
     m_label2->setFont(gras);
-    m_label2->setWordWrap(true);
-    m_label1->setWordWrap(true);
     auto *const titres = new QVBoxLayout;
     titres->setSpacing(2);
     titres->addWidget(m_label2);
@@ -220,7 +221,9 @@ void Partielm::relie()
     connect(&m_timer2, &QTimer::timeout, this, &Partielm::delai);
     connect(m_command1, &QPushButton::clicked, this, &Partielm::ok);
     connect(m_command2, &QPushButton::clicked, this, &Partielm::reject);
-    connect(m_command3, &QPushButton::clicked, this, [this] { m_actions.aide(); });
+    connect(m_command3, &QPushButton::clicked, this,
+            [this] { ouvreaide(m_session, QStringLiteral("fonctions.htm")); });
+    connect(this, &QDialog::rejected, this, [this] { m_session.dlgvalide = false; });
     connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, m_command3,
             &QPushButton::click);
 }
@@ -330,10 +333,11 @@ void Partielm::ok()
     const bool bon = m_saisie.normhor();
     montre();
     if (!bon) {
-        m_actions.message(QStringLiteral("horaire en anomalie !"));
+        m_session.host.message(QStringLiteral("horaire en anomalie !"), titre);
         return;
     }
-    m_actions.ecrihor(m_journee, m_saisie);
+    m_ecrihor(m_journee, jourDeSaisie(m_saisie.textes(), m_saisie.total()));
+    m_session.dlgvalide = true;
     accept();
 }
 

@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include <array>
+#include <functional>
 
 class QGridLayout;
 class QGroupBox;
@@ -28,12 +29,11 @@ class Partielm : public QDialog
     Q_OBJECT
 
 public:
-    struct Actions {
-        std::function<void(const JourneeSaisie &, const SaisieHoraire &)> ecrihor;
-        std::function<void(const QString &)> message;
-        std::function<void()> aide;
-    };
-    Partielm(JourneeSaisie journee, Actions actions, QWidget *parent = nullptr);
+    /// Writes the hours on each date of the entry.
+    using Ecrihor = std::function<void(const JourneeSaisie &, const JourSit &)>;
+
+    /// Opens on what the session was given for it; `dlgvalide` tells whether hours were stored.
+    Partielm(Session &session, Ecrihor ecrihor, QWidget *parent = nullptr);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -66,8 +66,9 @@ private:
     }
     [[nodiscard]] bool toutSelectionne(int numero) const;
 
+    Session &m_session;
+    Ecrihor m_ecrihor;
     JourneeSaisie m_journee;
-    Actions m_actions;
     SaisieHoraire m_saisie;
     bool m_enQuittant = false; // a field is being left: the focus can't be moved before it has gone
 

@@ -1,9 +1,6 @@
 #pragma once
 
-#include "store/rows.h"
-
-#include <QDate>
-#include <QString>
+#include "session/session.h"
 
 #include <optional>
 
@@ -20,10 +17,13 @@ struct JourneeSaisie {
     std::optional<JourSit> jour; ///< hours stored for `dd`; those of the other dates are not looked at
 };
 
-/// "NOM le 03/06/2026" for one day, "NOM du 03/06/2026 au 05/06/2026" for several.
-[[nodiscard]] QString titreSaisie(const QString &saisnom, const QString &saisdeb, const QString &saisfin);
+/// Leaves in the session what a day entry is given: the line's heading, the date, and the last date of the
+/// selection when there is one. False, with nothing changed, on a date outside the period of the current row
+/// of `ligmois`: then the entry doesn't open.
+[[nodiscard]] bool prepareSaisie(Session &session, const QString &entete, int numligne, const QDate &date,
+                                 const std::optional<QDate> &finSelection = std::nullopt);
 
-/// Whether the entry opens on a date: only within the period of its line.
-[[nodiscard]] bool saisiePossible(const Ligne &ligne, const QDate &date);
+/// Reads what `saisdeb`, `saisfin`, `saisnom` and `saisligne` stand for. `ligmois` is on the line.
+[[nodiscard]] JourneeSaisie journeeSaisie(Session &session);
 
 } // namespace velmora
