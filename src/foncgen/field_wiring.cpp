@@ -239,7 +239,8 @@ bool FieldWiring::key(QKeyEvent *event)
 
 bool FieldWiring::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != m_field) return false;
+    // A field that is being destroyed still loses the focus, when its form is no longer whole.
+    if (!qobject_cast<QLineEdit *>(watched)) return false;
     switch (event->type()) {
     case QEvent::FocusIn: gainFocus(static_cast<QFocusEvent *>(event)->reason()); return false;
     case QEvent::FocusOut: loseFocus(static_cast<QFocusEvent *>(event)->reason()); return false;

@@ -10,6 +10,20 @@ namespace
 
 constexpr qsizetype longueurCode = 2;
 
+/// The table of absences as a source of spans. A search leaves the table on the row that it gives.
+struct TableAbsences {
+    store::Table<AbsenceSaisie> &table;
+
+    [[nodiscard]] const AbsenceSaisie *derniereAvant(int nump, const QDate &date) const
+    {
+        return table.seek(Cmp::Lt, {nump, date}) ? &table.row() : nullptr;
+    }
+    [[nodiscard]] const AbsenceSaisie *premiereDes(int nump, const QDate &date) const
+    {
+        return table.seek(Cmp::Ge, {nump, date}) ? &table.row() : nullptr;
+    }
+};
+
 } // namespace
 
 bool jourferie(Session &session, const QDate &date)
@@ -29,7 +43,7 @@ void jeuaudate(Session &session, const QDate &date)
 bool absjour(Session &session, int nump, const QDate &date)
 {
     session.base.absences.setIndex("abs01");
-    return absjourDans(session.base.absences, nump, date);
+    return absencesur(TableAbsences{session.base.absences}, nump, date) != nullptr;
 }
 
 bool absproche(Session &session, int nump, const QDate &date)

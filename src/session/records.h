@@ -21,17 +21,18 @@ template <class Row> void videtable(Session &session, store::Table<Row> &table)
         if (!supprgarde(session, table).ok()) return;
 }
 
-/// Where the search for an absence looks: the table itself, or a line's spans in memory. Both seek by (line,
-/// first date) and leave the found span as `row`.
-template <class Source> [[nodiscard]] bool absjourDans(Source &source, int nump, const QDate &date)
+/// The absence of a line that covers a date, or null: the last span that begins on or before the date, else
+/// the first one that begins on it. `source` is the table or a line's spans in memory; it gives the last span
+/// before a key (line, first date) and the first one from a key on, or null.
+template <class Source>
+[[nodiscard]] const AbsenceSaisie *absencesur(const Source &source, int nump, const QDate &date)
 {
-    using store::Cmp;
-    const auto couvre = [&] {
-        const AbsenceSaisie &absence = source.row();
-        return absence.nump == nump && absence.datedeb <= date && absence.datefin >= date;
+    const auto couvre = [&](const AbsenceSaisie *absence) {
+        return absence && absence->nump == nump && absence->datedeb <= date && absence->datefin >= date;
     };
-    if (source.seek(Cmp::Lt, {nump, date.addDays(1)}) && couvre()) return true;
-    return source.seek(Cmp::Ge, {nump, date}) && couvre();
+    const AbsenceSaisie *absence = source.derniereAvant(nump, date.addDays(1));
+    if (!couvre(absence)) absence = source.premiereDes(nump, date);
+    return couvre(absence) ? absence : nullptr;
 }
 
 /// Whether a line has an absence on a date; leaves `absences` on it.

@@ -232,6 +232,18 @@ TEST_F(FieldWiringTest, RunsTheHooksInAnotherOrder)
                                  QStringLiteral("down 13"), QStringLiteral("out")}));
 }
 
+TEST_F(FieldWiringTest, CallsTheFormBackWhileItIsDestroyed)
+{
+    int losses = 0;
+    auto *const field = new QLineEdit(&dialog);
+    wireField(field, nullptr, nullptr, FieldType::Free, 30)->setHooks({.focusLost = [&] { ++losses; }});
+    field->show();
+    field->setFocus();
+    ASSERT_TRUE(field->hasFocus());
+    delete field;
+    EXPECT_EQ(losses, 0);
+}
+
 TEST_F(FieldWiringTest, TreatsAnotherWindowAsLeavingTheField)
 {
     int moves = 0;

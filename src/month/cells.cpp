@@ -1,0 +1,145 @@
+#include "month/cells.h"
+
+#include "session/records.h"
+#include "session/values.h"
+
+namespace velmora
+{
+
+namespace
+{
+
+constexpr int largeurHeure = 5;
+constexpr int largeurDuree = 7;
+
+QString heure(int minutes)
+{
+    return Foncgen::fwhl(minutes, largeurHeure);
+}
+
+QString tranche(int debut, int fin)
+{
+    return heure(debut) + QStringLiteral(" - ") + heure(fin);
+}
+
+QString coupe(int debut, int fin)
+{
+    return QStringLiteral("\n[") + heure(debut) + QStringLiteral(" _ ") + heure(fin) + QLatin1Char(']');
+}
+
+QString texteCoupes(const Horaire &horaire)
+{
+    QString texte = tranche(horaire.heurdeb, horaire.heurfin);
+    if (horaire.premiereCoupe()) texte += coupe(horaire.hideb, horaire.hifin);
+    if (horaire.secondeCoupe()) texte += coupe(horaire.hideb2, horaire.hifin2);
+    return texte;
+}
+
+/// Starts and ends of the slices that the cuts leave. The second cut counts only behind a first one.
+QString texteTranches(const Horaire &horaire)
+{
+    const QLatin1Char saut('\n');
+    if (horaire.secondeCoupe()) {
+        return tranche(horaire.heurdeb, horaire.hideb) + saut + tranche(horaire.hifin, horaire.hideb2) +
+               saut + tranche(horaire.hifin2, horaire.heurfin);
+    }
+    if (horaire.premiereCoupe())
+        return tranche(horaire.heurdeb, horaire.hideb) + saut + tranche(horaire.hifin, horaire.heurfin);
+    return tranche(horaire.heurdeb, horaire.heurfin);
+}
+
+/// The status text of valid hours. Its times follow the totals option.
+class StatutHoraire
+{
+public:
+    StatutHoraire(const Horaire &horaire, const Session &session)
+        : m_horaire(horaire), m_centiemes(session.totcent), m_mode(session.modecellule)
+    {
+    }
+
+    [[nodiscard]] QString texte() const
+    {
+        const QString debut = QStringLiteral("[Fait: ") + duree(m_horaire.minutes) + QStringLiteral(" ] de ");
+        return debut + (m_mode == TranchesJour ? tranches() : coupes());
+    }
+
+private:
+    [[nodiscard]] QString duree(int minutes) const { return hdeci(minutes, m_centiemes); }
+    [[nodiscard]] QString deA(int debut, int fin) const
+    {
+        return duree(debut) + QStringLiteral(" à ") + duree(fin);
+    }
+    [[nodiscard]] QString coupes() const
+    {
+        QString texte = deA(m_horaire.heurdeb, m_horaire.heurfin);
+        if (m_horaire.premiereCoupe()) texte += coupeEntre(m_horaire.hideb, m_horaire.hifin);
+        if (m_horaire.secondeCoupe()) texte += coupeEntre(m_horaire.hideb2, m_horaire.hifin2);
+        return texte;
+    }
+    [[nodiscard]] QString coupeEntre(int debut, int fin) const
+    {
+        return QStringLiteral(" [Coupe: ") + duree(debut) + QStringLiteral(" _ ") + duree(fin) +
+               QLatin1Char(']');
+    }
+    [[nodiscard]] QString tranches() const
+    {
+        const QString suite = QStringLiteral(" + de ");
+        if (m_horaire.secondeCoupe()) {
+            return deA(m_horaire.heurdeb, m_horaire.hideb) + suite + deA(m_horaire.hifin, m_horaire.hideb2) +
+                   suite + deA(m_horaire.hifin2, m_horaire.heurfin);
+        }
+        if (m_horaire.premiereCoupe())
+            return deA(m_horaire.heurdeb, m_horaire.hideb) + suite + deA(m_horaire.hifin, m_horaire.heurfin);
+        return deA(m_horaire.heurdeb, m_horaire.heurfin);
+    }
+
+    const Horaire &m_horaire;
+    bool m_centiemes;
+    int m_mode;
+};
+
+QString statutAbsence(Session &session, int minutes)
+{
+    const QString code = session.base.absences.row().codabs;
+    QString texte = QStringLiteral("ABS: ") + code;
+    int valeur = minutes;
+    if (cherchecode(session, code)) {
+        texte += QLatin1Char(' ') + session.base.codabs.row().libelong;
+        valeur = valeurAbsence(session.base.codabs.row(), minutes);
+    }
+    return texte + QStringLiteral(" [") + hdeci(valeur, session.totcent) + QLatin1Char(']');
+}
+
+} // namespace
+
+QString texteHoraire(const Horaire &horaire, int modecellule)
+{
+    if (modecellule == HeuresFaites) return Foncgen::fwhl(horaire.minutes, largeurDuree);
+    return modecellule == TranchesJour ? texteTranches(horaire) : texteCoupes(horaire);
+}
+
+bool troisLignes(const Horaire &horaire, int modecellule)
+{
+    return modecellule != HeuresFaites && horaire.secondeCoupe();
+}
+
+int valeurAbsence(const CodeAbsence &code, int minutes)
+{
+    const int mode = code.modabs.value_or(0);
+    if (mode > 0) return mode;
+    return mode == -1 ? 0 : minutes;
+}
+
+QString textestatut(Session &session, int nump, const QDate &jour)
+{
+    auto &sitper = session.base.sitper;
+    sitper.setIndex("sitper01");
+    Horaire horaire;
+    if (sitper.seek(store::Cmp::Eq, {nump, jour})) {
+        horaire = horaireDuJour(sitper.row());
+        if (sitper.row().Val) return StatutHoraire(horaire, session).texte();
+    }
+    return absjour(session, nump, jour) ? statutAbsence(session, horaire.minutes) : QString();
+}
+
+} // namespace velmora

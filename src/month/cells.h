@@ -1,0 +1,25 @@
+#pragma once
+
+#include "session/day_hours.h"
+#include "session/session.h"
+
+namespace velmora
+{
+
+/// What a cell shows of a day's hours. The values are those of the session's `modecellule`.
+enum ModeCellule { HeuresFaites = 0, HoraireJour = 1, TranchesJour = 2 };
+
+/// The text of a day cell, of one to three lines.
+[[nodiscard]] QString texteHoraire(const Horaire &horaire, int modecellule);
+
+/// Lines that the text takes in the mode: only a day with a second cut has three.
+[[nodiscard]] bool troisLignes(const Horaire &horaire, int modecellule);
+
+/// The value in minutes of a day under an absence: a fixed value, none, or the hours that the day held.
+[[nodiscard]] int valeurAbsence(const CodeAbsence &code, int minutes);
+
+/// The status text of a line's day: its hours in the session's mode, its absence, or nothing. Leaves
+/// `sitper`, `absences` and `codabs` where it has looked.
+[[nodiscard]] QString textestatut(Session &session, int nump, const QDate &jour);
+
+} // namespace velmora

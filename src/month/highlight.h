@@ -1,0 +1,15 @@
+#pragma once
+
+#include "month/planning.h"
+
+namespace velmora
+{
+
+/// Gives a cell its own colours. On the highlighted cell they wait as its saved colours.
+void coloreCase(Planning &planning, const Place &place, QRgb fond, QRgb encre);
+
+/// Moves the highlight to the current cell: the previous cell, its name and its day label get their colours
+/// back, the current ones take the selection's. The cursor doesn't move.
+void deplaceSurbrillance(Planning &planning);
+
+} // namespace velmora

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "month/columns.h"
+#include "month/commands.h"
+#include "month/grid.h"
+#include "month/period.h"
+#include "session/session.h"
+
+#include <QHash>
+
+namespace velmora
+{
+
+/// A place in the grid, in grid rows and columns.
+struct Place {
+    int ligne = 0;
+    int colonne = 0;
+    friend bool operator==(const Place &, const Place &) = default;
+};
+
+/// The cell that carries the highlight and the colours that it had before.
+struct Surbrillance {
+    Place place{-1, -1};
+    QRgb fond = 0;
+    QRgb encre = 0;
+};
+
+/// An open month: what the month form shows, without the form. The procedures of this folder work on it;
+/// the form only passes events in and shows what comes back.
+struct Planning {
+    Planning(Session &theSession, int mois, int annee)
+        : session(theSession), periode(periodeDuMois(mois, annee)), colonnes(colonnesDe(periode))
+    {
+    }
+    Planning(const Planning &) = delete;
+    Planning &operator=(const Planning &) = delete;
+
+    Session &session;
+    Periode periode;
+    Colonnes colonnes;
+    Grille grille;
+    Mesures mesures;
+
+    bool suivi = false; ///< the grid reacts; false while it is loaded or changed by the program
+    Place curseur{Grille::lignesFixes, Grille::colonnesFixes};
+    int colonneGauche = Grille::colonnesFixes; ///< first day column in view
+    Surbrillance surbrillance;
+    bool rapportdemande = false; ///< the next refresh shows the labour report of the current line
+    QString texteStatut;         ///< status text of the current cell
+    QDate dateStatut;
+    EtatCommandes commandes;
+    int cliplong = 0; ///< days held by cut and copy
+
+    [[nodiscard]] int premiereColonne() const { return Grille::colonnesFixes; }
+    [[nodiscard]] QDate date(int colonne) const
+    {
+        return colonnes.datecol[static_cast<std::size_t>(colonne)];
+    }
+};
+
+/// Turns the grid's drawing and reactions off for a scope, and on again at its end.
+class TravailGrille
+{
+public:
+    explicit TravailGrille(Planning &planning) : m_planning(planning), m_dessin(planning.grille)
+    {
+        m_planning.suivi = false;
+    }
+    ~TravailGrille() { m_planning.suivi = true; }
+    TravailGrille(const TravailGrille &) = delete;
+    TravailGrille &operator=(const TravailGrille &) = delete;
+
+private:
+    Planning &m_planning;
+    DessinSuspendu m_dessin;
+};
+
+} // namespace velmora

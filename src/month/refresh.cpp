@@ -1,0 +1,80 @@
+#include "month/refresh.h"
+
+#include "month/cells.h"
+#include "month/highlight.h"
+#include "session/records.h"
+
+namespace velmora
+{
+
+namespace
+{
+
+constexpr int derniereAnneeFermee = 2090;
+
+/// Puts `ligmois` on the current line. A line that is gone is told, and what follows runs on the row read
+/// before: the check doesn't stop the cycle.
+const Ligne &ligneCourante(Planning &planning)
+{
+    auto &ligmois = planning.session.base.ligmois;
+    ligmois.setIndex("ligmois01");
+    if (!ligmois.seek(store::Cmp::Eq, {planning.grille.numligne(planning.curseur.ligne)})) {
+        planning.session.host.message(
+            QStringLiteral("Une erreur de base de données vient de se produire: fermer "
+                           "l'application et relancer la !"),
+            titre);
+    }
+    return ligmois.row();
+}
+
+/// What the cell allows. A total column answers for the day before it, whose date it holds.
+void commandesCellule(Planning &planning, const Ligne &ligne)
+{
+    EtatCommandes &etat = planning.commandes;
+    const QDate date = planning.date(planning.curseur.colonne);
+    etat.couper = etat.copier = etat.coller = etat.absence = true;
+    Session &session = planning.session;
+    const int nump = planning.grille.numligne(planning.curseur.ligne);
+    session.base.sitper.setIndex("sitper01");
+    if (date < ligne.datedeb || date > ligne.datefin)
+        etat.couper = etat.copier = etat.coller = etat.absence = false;
+    else if (absjour(session, nump, date))
+        etat.couper = etat.copier = etat.coller = false;
+    else if (!session.base.sitper.seek(store::Cmp::Eq, {nump, date}))
+        etat.couper = etat.copier = false;
+    if (planning.cliplong == 0) etat.coller = false;
+}
+
+} // namespace
+
+bool ligneOuverte(const Ligne &ligne)
+{
+    return ligne.datefin.year() > derniereAnneeFermee;
+}
+
+void majcommandes(Planning &planning)
+{
+    planning.commandes.annuler = planning.session.peutannul;
+    planning.commandes.refaire = planning.session.peutrefaire;
+}
+
+void cycle(Planning &planning)
+{
+    planning.suivi = true;
+    const TravailGrille travail(planning);
+    const Place place = planning.curseur;
+    if (!planning.grille.estLigne(place.ligne)) return;
+    const int nump = planning.grille.numligne(place.ligne);
+    planning.dateStatut = planning.date(place.colonne);
+    planning.texteStatut = textestatut(planning.session, nump, planning.dateStatut);
+    const Ligne &ligne = ligneCourante(planning);
+    planning.commandes.fermerLigne = ligneOuverte(ligne);
+    planning.commandes.reouvrirLigne = !planning.commandes.fermerLigne;
+    deplaceSurbrillance(planning);
+    commandesCellule(planning, ligne);
+    majcommandes(planning);
+    planning.commandes.ligneCourante = ligne.nom;
+    planning.commandes.renommerLigne = true;
+}
+
+} // namespace velmora

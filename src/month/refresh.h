@@ -1,0 +1,19 @@
+#pragma once
+
+#include "month/planning.h"
+
+namespace velmora
+{
+
+/// The commands as they stand when a month has just been loaded or a row refilled: undo and redo as the
+/// journal says, the rest as it was.
+void majcommandes(Planning &planning);
+
+/// The refresh cycle around the current cell: reads its line, writes the status text, moves the highlight and
+/// decides which commands are open.
+void cycle(Planning &planning);
+
+/// Whether a line is open: the year of its last date is above 2090.
+[[nodiscard]] bool ligneOuverte(const Ligne &ligne);
+
+} // namespace velmora

@@ -1,0 +1,244 @@
+#include "month/rows.h"
+
+#include "month/absence_cells.h"
+#include "month/cells.h"
+#include "month/highlight.h"
+#include "month/refresh.h"
+#include "session/batch.h"
+#include "session/values.h"
+
+namespace velmora
+{
+
+namespace
+{
+
+/// The columns of `sitper` that the grid reads.
+const std::vector<int> &colonnesLues()
+{
+    static const auto lues =
+        store::Columns<JourSit>::of(&JourSit::dat, &JourSit::Val, &JourSit::heurdeb, &JourSit::heurfin,
+                                    &JourSit::hideb, &JourSit::hifin, &JourSit::hideb2, &JourSit::hifin2);
+    return lues;
+}
+
+QString total(const Planning &planning, int minutes)
+{
+    return QLatin1Char(' ') + hdeci(minutes, planning.session.totcent);
+}
+
+/// Fills one row from left to right, with its four running sums.
+class Remplissage
+{
+public:
+    Remplissage(Planning &planning, int nump, int rangee)
+        : m_planning(planning), m_grille(planning.grille), m_rangee(rangee),
+          m_absences(planning.session, nump), m_codes(planning.session),
+          m_jours(planning.session.base.sitper.range("sitper01", {nump, planning.periode.debgrille},
+                                                     {nump, planning.periode.fingrille}, colonnesLues()))
+    {
+    }
+
+    void remplit()
+    {
+        m_suivant = m_jours.next();
+        for (int colonne = m_planning.premiereColonne(); colonne < m_grille.colonnes(); ++colonne) {
+            const auto rang = static_cast<std::size_t>(colonne);
+            if (m_planning.colonnes.coltot[rang])
+                remplitTotal(colonne);
+            else
+                compte(colonne, remplitJour(colonne));
+        }
+    }
+
+private:
+    void remplitTotal(int colonne)
+    {
+        const Colonnes &colonnes = m_planning.colonnes;
+        const auto rang = static_cast<std::size_t>(colonne);
+        int somme = m_semaine;
+        if (colonnes.colsem[rang])
+            m_semaine = 0;
+        else if (colonnes.colmois[rang])
+            somme = m_vu;
+        else if (colonnes.colavant[rang])
+            somme = m_avant += m_grille.avantmois(m_rangee);
+        else
+            somme = m_apres;
+        m_grille.fixeMinutes(colonne, m_rangee, somme);
+        m_grille.ecrit(m_rangee, colonne, total(m_planning, somme));
+    }
+
+    int remplitJour(int colonne)
+    {
+        const QDate date = m_planning.date(colonne);
+        while (m_suivant && m_jours.row().dat < date)
+            m_suivant = m_jours.next();
+        if (!m_suivant || m_jours.row().dat != date) return jourSansLigne(colonne);
+        const JourSit &jour = m_jours.row();
+        const Horaire horaire = horaireDuJour(jour);
+        const int valeur = jour.Val ? jourValide(colonne, horaire) : jourInvalide(colonne, horaire.minutes);
+        m_suivant = m_jours.next();
+        return valeur;
+    }
+
+    int jourSansLigne(int colonne)
+    {
+        if (ferme(colonne)) return 0;
+        m_grille.ecrit(m_rangee, colonne, {});
+        return celabsence(m_planning, m_absences, m_codes, m_rangee, colonne, 0);
+    }
+
+    int jourInvalide(int colonne, int minutes)
+    {
+        if (!ferme(colonne)) m_grille.ecrit(m_rangee, colonne, {});
+        return celabsence(m_planning, m_absences, m_codes, m_rangee, colonne, minutes);
+    }
+
+    int jourValide(int colonne, const Horaire &horaire)
+    {
+        const int mode = m_planning.session.modecellule;
+        coloreCase(m_planning, {m_rangee, colonne},
+                   m_planning.colonnes.fondjour[static_cast<std::size_t>(colonne)], palette::encre);
+        m_grille.ecrit(m_rangee, colonne, texteHoraire(horaire, mode));
+        // A row once made higher keeps its height, whatever it is filled with later. Wanted.
+        if (troisLignes(horaire, mode))
+            m_grille.fixeHauteur(m_rangee, (m_planning.mesures.hautligne * 3 + 1) / 2);
+        return horaire.minutes;
+    }
+
+    [[nodiscard]] bool ferme(int colonne) const
+    {
+        return m_grille.lit(m_rangee, colonne).texte == texteFerme();
+    }
+
+    void compte(int colonne, int valeur)
+    {
+        const QDate date = m_planning.date(colonne);
+        m_grille.fixeMinutes(colonne, m_rangee, valeur);
+        m_semaine += valeur;
+        if (date.month() == m_planning.periode.moisvu)
+            m_vu += valeur;
+        else if (date >= m_planning.periode.premier)
+            m_apres += valeur;
+        else
+            m_avant += valeur;
+    }
+
+    Planning &m_planning;
+    Grille &m_grille;
+    int m_rangee;
+    AbsencesLigne m_absences;
+    CodesAbsence m_codes;
+    store::Rows<JourSit> m_jours;
+    bool m_suivant = false;
+    int m_semaine = 0;
+    int m_vu = 0;
+    int m_avant = 0;
+    int m_apres = 0;
+};
+
+void refait(Planning &planning, int nump, const Ligne *dates, int rangee)
+{
+    {
+        const TravailGrille travail(planning);
+        const ReadPass lecture(planning.session.base.engine);
+        soustotal(planning, rangee);
+        if (dates) marqueferme(planning, *dates, rangee);
+        rempligne(planning, nump, rangee);
+        ajoutetotal(planning, rangee);
+    }
+    majcommandes(planning);
+}
+
+} // namespace
+
+QString texteFerme()
+{
+    return QStringLiteral("////");
+}
+
+void marqueferme(Planning &planning, const Ligne &ligne, int rangee)
+{
+    Grille &grille = planning.grille;
+    for (int colonne = planning.premiereColonne(); colonne < grille.colonnes(); ++colonne) {
+        const QDate date = planning.date(colonne);
+        const bool ferme = date < ligne.datedeb || date > ligne.datefin;
+        const bool jour = planning.colonnes.estJour(colonne);
+        const QString texteJour = ferme ? texteFerme() : QString();
+        grille.ecrit(rangee, colonne, jour ? texteJour : QStringLiteral("0h00"));
+        const bool normal = jour && !ferme;
+        coloreCase(planning, {rangee, colonne},
+                   normal ? planning.colonnes.fondjour[static_cast<std::size_t>(colonne)] : palette::fondFixe,
+                   palette::encre);
+    }
+}
+
+void sommeavant(Planning &planning, int nump, int rangee)
+{
+    const Periode &periode = planning.periode;
+    planning.grille.fixeAvantmois(rangee, 0);
+    if (periode.debgrille.month() == periode.moisvu) return;
+    const QDate premier(periode.debgrille.year(), periode.debgrille.month(), 1);
+    auto jours = planning.session.base.sitper.range("sitper01", {nump, premier},
+                                                    {nump, periode.debgrille.addDays(-1)}, colonnesLues());
+    int somme = 0;
+    while (jours.next())
+        somme += horaireDuJour(jours.row()).minutes;
+    planning.grille.fixeAvantmois(rangee, somme);
+}
+
+void rempligne(Planning &planning, int nump, int rangee)
+{
+    Remplissage(planning, nump, rangee).remplit();
+}
+
+void soustotal(Planning &planning, int rangee)
+{
+    Grille &grille = planning.grille;
+    for (int colonne = planning.premiereColonne(); colonne < grille.colonnes(); ++colonne) {
+        grille.fixeMinutes(colonne, 0, grille.minutes(colonne, 0) - grille.minutes(colonne, rangee));
+        grille.fixeMinutes(colonne, rangee, 0);
+    }
+}
+
+void ajoutetotal(Planning &planning, int rangee)
+{
+    Grille &grille = planning.grille;
+    for (int colonne = planning.premiereColonne(); colonne < grille.colonnes(); ++colonne)
+        grille.fixeMinutes(colonne, 0, grille.minutes(colonne, 0) + grille.minutes(colonne, rangee));
+    ecritTotaux(planning);
+}
+
+void ecritTotaux(Planning &planning)
+{
+    Grille &grille = planning.grille;
+    for (int colonne = planning.premiereColonne(); colonne < grille.colonnes(); ++colonne)
+        grille.ecrit(grille.derniereLigne(), colonne, total(planning, grille.minutes(colonne, 0)));
+}
+
+void majligne(Planning &planning, int nump, int rangee)
+{
+    refait(planning, nump, nullptr, rangee);
+}
+
+void majlignecomplet(Planning &planning, const Ligne &ligne, int rangee)
+{
+    refait(planning, ligne.nump, &ligne, rangee);
+}
+
+void choisitCentiemes(Planning &planning, bool centiemes)
+{
+    if (std::exchange(planning.session.totcent, centiemes) == centiemes) return;
+    Grille &grille = planning.grille;
+    const DessinSuspendu dessin(grille);
+    for (int rangee = Grille::lignesFixes; rangee < grille.derniereLigne(); ++rangee) {
+        for (int colonne = planning.premiereColonne(); colonne < grille.colonnes(); ++colonne) {
+            if (!planning.colonnes.estJour(colonne))
+                grille.ecrit(rangee, colonne, total(planning, grille.minutes(colonne, rangee)));
+        }
+    }
+    ecritTotaux(planning);
+}
+
+} // namespace velmora
