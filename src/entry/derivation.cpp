@@ -123,6 +123,7 @@ JourSit jourDeSaisie(const SaisieHoraire::Textes &textes, const QString &total)
     JourSit jour;
     jour.Type = typeHoraire;
     jour.Val = true;
+    jour.horaire = QStringLiteral("");
     coupures(tranches, jour);
     jour.heurdeb = tranches[0].deb;
     jour.heurfin = derniereFin(tranches);

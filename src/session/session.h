@@ -16,6 +16,12 @@ class Batch;
 /// plain members: each is written where its comment says and read by whoever needs it.
 struct Session {
     explicit Session(Host &theHost) : host(theHost) {}
+    /// A session over engines other than the embedded one.
+    Session(Host &theHost, std::unique_ptr<store::Engine> baseEngine,
+            std::unique_ptr<store::Engine> journalEngine)
+        : host(theHost), base(std::move(baseEngine)), journal(std::move(journalEngine))
+    {
+    }
     Session(const Session &) = delete;
     Session &operator=(const Session &) = delete;
 
@@ -43,7 +49,8 @@ struct Session {
     bool moisouvert = false; ///< the month form is loaded
     int moisvue = 0;         ///< month to open, 1 to 12
     int anvue = 0;
-    QString dossiervue; ///< folder that filters the lines; empty for all
+    int choixmoisdebut = 0; ///< 1 makes the open-month dialog start in January; no command sets it
+    QString dossiervue;     ///< folder that filters the lines; empty for all
     bool modeajout = false;
     QString nometab; ///< name of the establishment, once a dialog has set it
     Affichage affichage;
