@@ -6,6 +6,9 @@
 namespace velmora
 {
 
+/// Format version that a new `chemin` row is given; nothing reads it.
+inline constexpr int versionJournal = 2;
+
 /// `chemin`: the workstation's tie to the main database. One row.
 struct Chemin {
     int nor = 0; ///< always 1

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "cli/commands.h"
+#include "session/session.h"
+
+namespace velmora::cli
+{
+
+/// Starts a session as the window does and runs the work on it. Returns the work's status, or `refuse` when
+/// the start stops on a message. A database that doesn't open ends the process with status 1.
+int surSession(const Appel &appel, const std::function<int(Session &)> &travail);
+
+/// Why a start found no main database, in one sentence.
+[[nodiscard]] QString causeArret(const QString &cheminjournal);
+
+} // namespace velmora::cli

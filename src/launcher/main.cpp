@@ -1,0 +1,48 @@
+#include "cli/commands.h"
+
+#include <QApplication>
+#include <QLoggingCategory>
+
+#include <clocale>
+#include <cstring>
+#include <langinfo.h>
+
+namespace
+{
+
+/// Texts are UTF-8, also on a machine whose locale says otherwise.
+void assureUtf8()
+{
+    std::setlocale(LC_ALL, "");
+    if (std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0) return;
+    const bool impose = !qgetenv("LC_ALL").isEmpty();
+    qputenv(impose ? "LC_ALL" : "LC_CTYPE", "C.UTF-8");
+}
+
+QStringList motsDe(int argc, char **argv)
+{
+    QStringList mots;
+    for (int i = 1; i < argc; ++i)
+        mots << QString::fromLocal8Bit(argv[i]);
+    return mots;
+}
+
+bool sansEcran()
+{
+    return qgetenv("DISPLAY").isEmpty() && qgetenv("WAYLAND_DISPLAY").isEmpty() &&
+           qgetenv("QT_QPA_PLATFORM").isEmpty();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    using namespace velmora;
+    assureUtf8();
+    // What the engine says of a failure is for whoever asks for it with QT_LOGGING_RULES.
+    QLoggingCategory::setFilterRules(QStringLiteral("velmora.*=false"));
+    QCoreApplication::setApplicationName(QStringLiteral("velmora"));
+    const cli::LigneCommande ligne = cli::analyse(motsDe(argc, argv));
+    const QCoreApplication application(argc, argv);
+    return cli::execute(ligne, {});
+}
