@@ -44,17 +44,16 @@ void Arguments::litOption(const QString &texte, const QStringList &ligne, qsizet
 {
     const QString nom = texte.section(QLatin1Char('='), 0, 0);
     const bool colle = texte.size() > nom.size();
-    const auto option = std::find_if(connues.begin(), connues.end(), [&](const Option &connue) {
-        return nom == QLatin1String(connue.nom);
-    });
+    const auto option = std::find_if(connues.begin(), connues.end(),
+                                     [&](const Option &connue) { return nom == QLatin1String(connue.nom); });
     if (option == connues.end()) return refuse(QStringLiteral("option inconnue : --%1").arg(nom));
     if (!option->valeur && colle)
         return refuse(QStringLiteral("l'option --%1 ne prend pas de valeur").arg(nom));
     if (m_valeurs.contains(nom) && !option->repetee)
         return refuse(QStringLiteral("l'option --%1 est donnée deux fois").arg(nom));
     if (option->valeur && !colle && i + 1 == ligne.size())
-        return refuse(QStringLiteral("l'option --%1 attend une valeur : %2")
-                          .arg(nom, QLatin1String(option->valeur)));
+        return refuse(
+            QStringLiteral("l'option --%1 attend une valeur : %2").arg(nom, QLatin1String(option->valeur)));
     QString valeur;
     if (option->valeur) valeur = colle ? texte.mid(nom.size() + 1) : ligne[++i];
     m_valeurs[nom] << valeur;

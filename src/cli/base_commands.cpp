@@ -18,7 +18,8 @@ Installation installation(const Appel &appel)
 {
     const Utilisateur machine = utilisateurMachine();
     const QString &pseudo = appel.poste.pseudo;
-    return {appel.poste.journal, appel.poste.base, {}, {pseudo, pseudo == machine.pseudo ? machine.nom : pseudo}};
+    return {
+        appel.poste.journal, appel.poste.base, {}, {pseudo, pseudo == machine.pseudo ? machine.nom : pseudo}};
 }
 
 /// "PSEUDO:NOM", both there; a colon in the name is part of it. A name already listed is nothing either.

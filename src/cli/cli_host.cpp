@@ -2,8 +2,8 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <string>
 #include <iostream>
+#include <string>
 
 #include <unistd.h>
 

@@ -4,6 +4,7 @@
 #include "cli/entry_command.h"
 #include "cli/installation.h"
 #include "cli/journal_command.h"
+#include "cli/month_commands.h"
 #include "foncgen/foncgen.h"
 #include "session/velmoral.h"
 
@@ -18,8 +19,14 @@ namespace
 const std::vector<Option> &optionsCommunes()
 {
     static const std::vector<Option> options{
-        {"journal", "DOSSIER"}, {"base", "DOSSIER"}, {"pseudo", "NOM"}, {"aujourdhui", "JJ/MM/AAAA"},
-        {"oui"},                {"non"},             {"aide"},          {"help"},
+        {"journal", "DOSSIER"},
+        {"base", "DOSSIER"},
+        {"pseudo", "NOM"},
+        {"aujourdhui", "JJ/MM/AAAA"},
+        {"oui"},
+        {"non"},
+        {"aide"},
+        {"help"},
         {"version"},
     };
     return options;
@@ -123,11 +130,40 @@ Poste posteDe(const Arguments &arguments)
 const std::vector<Commande> &commandes()
 {
     static const std::vector<Commande> toutes{
-        {"init", "", "crée les deux bases de données qui manquent", 0, 0,
-         {{"utilisateur", "PSEUDO:NOM", true}}, commandeInit},
-        {"demo", "", "crée des bases de données avec un planning d'exemple", 0, 0,
-         {{"lignes", "N"}, {"mois", "N"}, {"graine", "N"}}, commandeDemo},
-        {"saisie", "NUMP DEBUT [FIN] H-H [H-H [H-H]]", "enregistre l'horaire d'une ligne", 3, 6, {},
+        {"init",
+         "",
+         "crée les deux bases de données qui manquent",
+         0,
+         0,
+         {{"utilisateur", "PSEUDO:NOM", true}},
+         commandeInit},
+        {"demo",
+         "",
+         "crée des bases de données avec un planning d'exemple",
+         0,
+         0,
+         {{"lignes", "N"}, {"mois", "N"}, {"graine", "N"}},
+         commandeDemo},
+        {"mois",
+         "M/AAAA",
+         "affiche le planning d'un mois",
+         1,
+         1,
+         {{"dossier", "NOM"}, {"cellules", "0|1|2"}, {"centiemes"}, {"png", "FICHIER"}},
+         commandeMois},
+        {"statut",
+         "NUMP DATE",
+         "affiche l'état d'une journée",
+         2,
+         2,
+         {{"cellules", "0|1|2"}},
+         commandeStatut},
+        {"saisie",
+         "NUMP DEBUT [FIN] H-H [H-H [H-H]]",
+         "enregistre l'horaire d'une ligne",
+         3,
+         6,
+         {},
          commandeSaisie},
         {"journal", "", "affiche les opérations enregistrées", 0, 0, {}, commandeJournal},
     };

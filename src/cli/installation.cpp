@@ -57,8 +57,9 @@ bool present(const QString &chemin)
 bool meneA(const QString &lien, const QString &fichier)
 {
     const QFileInfo info(lien);
-    return info.isSymLink() && (info.symLinkTarget() == fichier ||
-                                (info.exists() && info.canonicalFilePath() == QFileInfo(fichier).canonicalFilePath()));
+    return info.isSymLink() &&
+           (info.symLinkTarget() == fichier ||
+            (info.exists() && info.canonicalFilePath() == QFileInfo(fichier).canonicalFilePath()));
 }
 
 Refus verifieBase(const Lieux &lieux)
@@ -76,7 +77,7 @@ Refus verifieJournal(const Lieux &lieux)
 {
     if (!present(lieux.journal)) return std::nullopt;
     store::JournalDatabase journal;
-    if (!journal.open(lieux.journal).ok()) 
+    if (!journal.open(lieux.journal).ok())
         return QStringLiteral("Le journal %1 est déjà là et ne peut pas être ouvert.").arg(lieux.journal);
     if (!journal.chemin.first() || Lieux::memeDossier(journal.chemin.row().chemin, lieux.dossierBase))
         return std::nullopt;
@@ -188,7 +189,7 @@ Refus construit(Chantier &chantier, const Lieux &lieux, const Installation &dema
                 const Remplissage &remplit)
 {
     for (const QString &dossier : {lieux.dossierJournal, lieux.dossierBase}) {
-        if (!chantier.dossier(dossier)) 
+        if (!chantier.dossier(dossier))
             return QStringLiteral("Le dossier %1 ne peut pas être créé.").arg(dossier);
     }
     const bool jointe = present(lieux.base);

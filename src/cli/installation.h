@@ -29,8 +29,8 @@ using Remplissage = std::function<store::Status(store::MainDatabase &)>;
 
 /// Makes what is missing of the two databases. With a main database elsewhere than the journal's folder, the
 /// journal names that folder and the journal's folder gets a link to the file. Users named for a base that
-/// is already there are added to it when it lacks them. With `neuve`, a base that is already there is refused.
-/// All or nothing: after a refusal, told in one sentence, the folders are as they were.
+/// is already there are added to it when it lacks them. With `neuve`, a base that is already there is
+/// refused. All or nothing: after a refusal, told in one sentence, the folders are as they were.
 [[nodiscard]] std::optional<QString> installe(const Installation &demande, bool neuve = false,
                                               const Remplissage &remplit = {});
 

@@ -4,6 +4,8 @@
 
 #include <QFileInfo>
 
+#include <limits>
+
 namespace velmora::cli
 {
 
@@ -28,6 +30,24 @@ int surSession(const Appel &appel, const std::function<int(Session &)> &travail)
     velmoral.ini(appel.poste.pseudo, appel.poste.journal, appel.poste.base);
     appel.host.siMuette({});
     return velmoral.demarree() ? travail(velmoral.session()) : refuse;
+}
+
+bool placeLigne(Session &session, const QString &nump)
+{
+    auto &ligmois = session.base.ligmois;
+    ligmois.setIndex("ligmois01");
+    const auto numero = entier(nump, 0, std::numeric_limits<int>::max());
+    return numero && ligmois.seek(store::Cmp::Eq, {*numero});
+}
+
+QString ligneInconnue(const QString &nump)
+{
+    return QStringLiteral("La ligne %1 n'existe pas.").arg(nump);
+}
+
+QString dateIllisible(const QString &date)
+{
+    return QStringLiteral("Date illisible : ") + date;
 }
 
 } // namespace velmora::cli

@@ -1,5 +1,7 @@
 #include "entry/partielm.h"
 
+#include "entry/typed_entry.h"
+
 #include "entry/derivation.h"
 #include "entry/hour_bar_view.h"
 #include "foncgen/field_wiring.h"
@@ -333,7 +335,7 @@ void Partielm::ok()
     const bool bon = m_saisie.normhor();
     montre();
     if (!bon) {
-        m_session.host.message(QStringLiteral("horaire en anomalie !"), titre);
+        m_session.host.message(horaireEnAnomalie(), titre);
         return;
     }
     m_ecrihor(m_journee, jourDeSaisie(m_saisie.textes(), m_saisie.total()));

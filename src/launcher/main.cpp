@@ -1,6 +1,6 @@
 #include "cli/commands.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QLoggingCategory>
 
 #include <clocale>
@@ -27,12 +27,6 @@ QStringList motsDe(int argc, char **argv)
     return mots;
 }
 
-bool sansEcran()
-{
-    return qgetenv("DISPLAY").isEmpty() && qgetenv("WAYLAND_DISPLAY").isEmpty() &&
-           qgetenv("QT_QPA_PLATFORM").isEmpty();
-}
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -41,7 +35,6 @@ int main(int argc, char **argv)
     assureUtf8();
     // What the engine says of a failure is for whoever asks for it with QT_LOGGING_RULES.
     QLoggingCategory::setFilterRules(QStringLiteral("velmora.*=false"));
-    QCoreApplication::setApplicationName(QStringLiteral("velmora"));
     const cli::LigneCommande ligne = cli::analyse(motsDe(argc, argv));
     const QCoreApplication application(argc, argv);
     return cli::execute(ligne, {});

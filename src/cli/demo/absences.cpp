@@ -82,16 +82,16 @@ std::vector<CodeAbsence> codesAbsence()
     return codes;
 }
 
-std::vector<AbsenceSaisie> absencesDe(int nump, const Periode &periode, Hasard &hasard)
+std::vector<AbsenceSaisie> absencesDe(int nump, const Intervalle &intervalle, Hasard &hasard)
 {
     std::vector<AbsenceSaisie> absences;
-    QDate libre = periode.premier;
-    QDate mois(periode.premier.year(), periode.premier.month(), 1);
-    for (; mois <= periode.dernier; mois = mois.addMonths(1)) {
+    QDate libre = intervalle.premier;
+    QDate mois(intervalle.premier.year(), intervalle.premier.month(), 1);
+    for (; mois <= intervalle.dernier; mois = mois.addMonths(1)) {
         if (!hasard.chance(frequence(mois.month()))) continue;
         AbsenceSaisie absence = absenceDuMois(nump, mois, hasard);
-        absence.datefin = std::min(absence.datefin, periode.dernier);
-        if (absence.datedeb < libre || absence.datedeb > periode.dernier) continue;
+        absence.datefin = std::min(absence.datefin, intervalle.dernier);
+        if (absence.datedeb < libre || absence.datedeb > intervalle.dernier) continue;
         libre = absence.datefin.addDays(1);
         absences.push_back(absence);
     }

@@ -9,6 +9,6 @@ namespace velmora::cli::demo
 [[nodiscard]] std::vector<CodeAbsence> codesAbsence();
 
 /// Spans of absence of a line in a period: in the order of the dates, none on another.
-[[nodiscard]] std::vector<AbsenceSaisie> absencesDe(int nump, const Periode &periode, Hasard &hasard);
+[[nodiscard]] std::vector<AbsenceSaisie> absencesDe(int nump, const Intervalle &intervalle, Hasard &hasard);
 
 } // namespace velmora::cli::demo

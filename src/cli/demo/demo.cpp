@@ -62,12 +62,12 @@ Status ajouteLignes(store::MainDatabase &base, const Demo &demo, Hasard &hasard,
 {
     const Horaires horaires(QDateTime(demo.aujourdhui, QTime(8, 0)), feriees);
     for (const LigneDemo &ligne : lignesDemo(demo, hasard)) {
-        const Periode periode = ligne.dans({demo.debut(), demo.fin()});
-        const auto absences = absencesDe(ligne.ligne.nump, periode, hasard);
+        const Intervalle intervalle = ligne.dans({demo.debut(), demo.fin()});
+        const auto absences = absencesDe(ligne.ligne.nump, intervalle, hasard);
         Status status = ajoute(base.ligmois, std::vector{ligne.ligne});
         if (status.ok()) status = ajoute(base.absences, absences);
         if (status.ok())
-            status = ajoute(base.sitper, couverts(horaires.jours(ligne, periode, hasard), absences));
+            status = ajoute(base.sitper, couverts(horaires.jours(ligne, intervalle, hasard), absences));
         if (status.ok()) status = ajoute(base.groupe, membres(ligne));
         if (!status.ok()) return status;
     }

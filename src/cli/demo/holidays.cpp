@@ -10,9 +10,7 @@ namespace velmora::cli::demo
 std::vector<JourFerie> feriesMetropole(int annee)
 {
     const QDate lundi = paques(annee);
-    const auto ferie = [](const QDate &date, const QString &lib) {
-        return JourFerie{date, date, lib, 0, 1};
-    };
+    const auto ferie = [](const QDate &date, const QString &lib) { return JourFerie{date, date, lib, 0, 1}; };
     // In the descending order of the rules: a date that is taken stays as it is.
     const std::vector<JourFerie> regles{
         ferie(lundi.addDays(49), QStringLiteral("Lundi de Pentecôte")),
@@ -29,9 +27,8 @@ std::vector<JourFerie> feriesMetropole(int annee)
     };
     std::vector<JourFerie> jours;
     for (const JourFerie &regle : regles) {
-        const bool pris = std::any_of(jours.begin(), jours.end(), [&](const JourFerie &jour) {
-            return jour.datedeb == regle.datedeb;
-        });
+        const bool pris = std::any_of(jours.begin(), jours.end(),
+                                      [&](const JourFerie &jour) { return jour.datedeb == regle.datedeb; });
         if (!pris) jours.push_back(regle);
     }
     return jours;

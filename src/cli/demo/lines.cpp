@@ -40,11 +40,12 @@ constexpr std::array<Emploi, 16> emplois{{
 }};
 
 constexpr std::array familles{
-    "MARTIN",  "BERNARD", "DUBOIS",  "THOMAS", "ROBERT", "PETIT",   "DURAND",  "LEROY",  "MOREAU",  "SIMON",
-    "LAURENT", "LEFÈVRE", "MICHEL",  "GARCIA", "DAVID",  "BERTRAND", "ROUX",   "VINCENT", "FOURNIER", "MOREL",
-    "GIRARD",  "ANDRÉ",   "MERCIER", "DUPONT", "LAMBERT", "BONNET",  "FAURE",  "BLANC",  "GUÉRIN",  "BOYER",
-    "GARNIER", "FRANÇOIS", "LEGRAND", "GAUTIER", "PERRIN", "ROBIN",  "CLÉMENT", "MORIN",  "NICOLAS", "HENRY",
-    "ROUSSEL", "MATHIEU", "GAUTHIER", "MASSON", "DUVAL",  "DENIS",   "DUMONT", "MARIE",  "LEMAIRE", "NOËL"};
+    "MARTIN",   "BERNARD", "DUBOIS",  "THOMAS",  "ROBERT",   "PETIT",   "DURAND",   "LEROY",  "MOREAU",
+    "SIMON",    "LAURENT", "LEFÈVRE", "MICHEL",  "GARCIA",   "DAVID",   "BERTRAND", "ROUX",   "VINCENT",
+    "FOURNIER", "MOREL",   "GIRARD",  "ANDRÉ",   "MERCIER",  "DUPONT",  "LAMBERT",  "BONNET", "FAURE",
+    "BLANC",    "GUÉRIN",  "BOYER",   "GARNIER", "FRANÇOIS", "LEGRAND", "GAUTIER",  "PERRIN", "ROBIN",
+    "CLÉMENT",  "MORIN",   "NICOLAS", "HENRY",   "ROUSSEL",  "MATHIEU", "GAUTHIER", "MASSON", "DUVAL",
+    "DENIS",    "DUMONT",  "MARIE",   "LEMAIRE", "NOËL"};
 constexpr std::array initiales{'A', 'B', 'C', 'D', 'E', 'F', 'G', 'H', 'I', 'J', 'K',
                                'L', 'M', 'N', 'O', 'P', 'R', 'S', 'T', 'V', 'Y'};
 
@@ -62,9 +63,9 @@ std::vector<int> personnes(Hasard &hasard)
 QString nom(const Emploi &emploi, int personne)
 {
     const auto rang = static_cast<std::size_t>(personne);
-    return QStringLiteral("%1 %2 %3").arg(QString::fromUtf8(emploi.nom),
-                                          QString::fromUtf8(familles[rang / initiales.size()]),
-                                          QString(QLatin1Char(initiales[rang % initiales.size()])));
+    return QStringLiteral("%1 %2 %3")
+        .arg(QString::fromUtf8(emploi.nom), QString::fromUtf8(familles[rang / initiales.size()]),
+             QString(QLatin1Char(initiales[rang % initiales.size()])));
 }
 
 /// Limits on every second line.
@@ -93,9 +94,9 @@ void date(Ligne &ligne, const Demo &demo, Hasard &hasard)
 
 } // namespace
 
-Periode LigneDemo::dans(const Periode &periode) const
+Intervalle LigneDemo::dans(const Intervalle &intervalle) const
 {
-    return {std::max(periode.premier, ligne.datedeb), std::min(periode.dernier, ligne.datefin)};
+    return {std::max(intervalle.premier, ligne.datedeb), std::min(intervalle.dernier, ligne.datefin)};
 }
 
 std::vector<LigneDemo> lignesDemo(const Demo &demo, Hasard &hasard)

@@ -11,7 +11,7 @@ namespace velmora::cli::demo
 /// Kinds of working time.
 enum class Genre { Jour, Bureau, Coupe, Nuit, Partiel };
 
-struct Periode {
+struct Intervalle {
     QDate premier;
     QDate dernier; ///< included; before `premier` when there is no date
 };
@@ -24,7 +24,7 @@ struct LigneDemo {
     int decalage = 0;              ///< days by which its cycle of two weeks is moved on
 
     /// The line's dates within a period.
-    [[nodiscard]] Periode dans(const Periode &periode) const;
+    [[nodiscard]] Intervalle dans(const Intervalle &intervalle) const;
 };
 
 [[nodiscard]] std::vector<LigneDemo> lignesDemo(const Demo &demo, Hasard &hasard);

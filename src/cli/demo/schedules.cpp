@@ -62,7 +62,8 @@ int rangDansLeCycle(const QDate &date, int decalage)
 
 } // namespace
 
-Horaires::Horaires(const QDateTime &datj, std::set<QDate> feriees) : m_datj(datj), m_feriees(std::move(feriees))
+Horaires::Horaires(const QDateTime &datj, std::set<QDate> feriees)
+    : m_datj(datj), m_feriees(std::move(feriees))
 {
     for (const Genre genre : {Genre::Jour, Genre::Bureau, Genre::Coupe, Genre::Nuit, Genre::Partiel}) {
         int numero = 0;
@@ -74,12 +75,13 @@ Horaires::Horaires(const QDateTime &datj, std::set<QDate> feriees) : m_datj(datj
     }
 }
 
-std::vector<JourSit> Horaires::jours(const LigneDemo &ligne, const Periode &periode, Hasard &hasard) const
+std::vector<JourSit> Horaires::jours(const LigneDemo &ligne, const Intervalle &intervalle,
+                                     Hasard &hasard) const
 {
     constexpr int horsHabitude = 15;
     const char *cycle = roulement(ligne.genre).cycle;
     std::vector<JourSit> lignes;
-    for (QDate date = periode.premier; date <= periode.dernier; date = date.addDays(1)) {
+    for (QDate date = intervalle.premier; date <= intervalle.dernier; date = date.addDays(1)) {
         const char signe = cycle[rangDansLeCycle(date, ligne.decalage)];
         if (signe == '.' || (ligne.genre == Genre::Bureau && m_feriees.count(date) > 0)) continue;
         const Variantes &variantes = m_variantes.at({ligne.genre, signe - '0'});

@@ -16,7 +16,7 @@ public:
     Horaires(const QDateTime &datj, std::set<QDate> feriees);
 
     /// The worked days of a line in a period, in the order of the dates.
-    [[nodiscard]] std::vector<JourSit> jours(const LigneDemo &ligne, const Periode &periode,
+    [[nodiscard]] std::vector<JourSit> jours(const LigneDemo &ligne, const Intervalle &intervalle,
                                              Hasard &hasard) const;
 
 private:
