@@ -8,7 +8,6 @@ namespace velmora
 namespace
 {
 
-constexpr int twipsParPas = 5;
 constexpr int largeurMinimale = 5;
 
 bool colonneSautee(const Planning &planning, int colonne)
@@ -67,21 +66,21 @@ int dernierJourVisible(const Planning &planning)
     return planning.premiereColonne();
 }
 
-bool etireColonnes(Grille &grille, int pas)
+bool etireColonnes(Grille &grille, int twips)
 {
     for (int colonne = Grille::colonnesFixes; colonne < grille.colonnes(); ++colonne)
-        if (grille.largeur(colonne) + pas * twipsParPas < largeurMinimale) return false;
+        if (grille.largeur(colonne) + twips < largeurMinimale) return false;
     const DessinSuspendu dessin(grille);
     for (int colonne = Grille::colonnesFixes; colonne < grille.colonnes(); ++colonne)
-        grille.fixeLargeur(colonne, grille.largeur(colonne) + pas * twipsParPas);
+        grille.fixeLargeur(colonne, grille.largeur(colonne) + twips);
     return true;
 }
 
-void etireLignes(Grille &grille, int pas)
+void etireLignes(Grille &grille, int twips)
 {
     const DessinSuspendu dessin(grille);
     for (int ligne = Grille::ligneJour; ligne < grille.derniereLigne(); ++ligne)
-        grille.fixeHauteur(ligne, std::max(grille.hauteur(ligne) + pas * twipsParPas, 0));
+        grille.fixeHauteur(ligne, std::max(grille.hauteur(ligne) + twips, 0));
 }
 
 } // namespace velmora

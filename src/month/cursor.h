@@ -17,11 +17,11 @@ void entreCellule(Planning &planning);
 [[nodiscard]] int premierJourVisible(const Planning &planning);
 [[nodiscard]] int dernierJourVisible(const Planning &planning);
 
-/// Widens or narrows the day and total columns by five twips a step. False, with nothing changed, when a
-/// width would fall below 5.
-[[nodiscard]] bool etireColonnes(Grille &grille, int pas);
+/// Widens the day and total columns by so many twips. False, with nothing changed, when a width would fall
+/// below 5.
+[[nodiscard]] bool etireColonnes(Grille &grille, int twips);
 
-/// Makes the rows from the day labels to the last line higher or lower by five twips a step.
-void etireLignes(Grille &grille, int pas);
+/// Heightens the rows from the day labels to the last line by so many twips.
+void etireLignes(Grille &grille, int twips);
 
 } // namespace velmora

@@ -89,9 +89,9 @@ void Fplan::construitEntete()
     const Periode &periode = m_planning.periode;
     m_label1->setText(m_label1->text() + QStringLiteral(" du ") + Foncgen::dtoc(periode.debgrille) +
                       QStringLiteral(" au ") + Foncgen::dtoc(periode.fingrille));
-    QFont titre = m_label1->font();
-    titre.setBold(true);
-    m_label1->setFont(titre);
+    QFont gras = m_label1->font();
+    gras.setBold(true);
+    m_label1->setFont(gras);
     if (!m_session.dossiervue.isEmpty())
         m_dossier->setText(QStringLiteral("Dossier : ") + m_session.dossiervue);
     m_statut->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -180,9 +180,9 @@ void Fplan::montreCommandes()
     emit commandsChanged(ToolbarState::onRefresh(m_planning.commandes));
 }
 
-void Fplan::command(const QString &key)
+void Fplan::command(const QString &cle)
 {
-    m_cle = key;
+    m_cle = cle;
     m_timer3.start(apresAffichage);
 }
 
@@ -235,14 +235,14 @@ void Fplan::choisitTotaux(bool centiemes)
     m_timer2.start(apresEvenement);
 }
 
-bool Fplan::stretchColumns(int delta)
+bool Fplan::stretchColumns(int twips)
 {
-    return etireColonnes(m_planning.grille, delta);
+    return etireColonnes(m_planning.grille, twips);
 }
 
-void Fplan::stretchRows(int delta)
+void Fplan::stretchRows(int twips)
 {
-    etireLignes(m_planning.grille, delta);
+    etireLignes(m_planning.grille, twips);
 }
 
 void Fplan::closeEvent(QCloseEvent *event)

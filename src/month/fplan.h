@@ -25,9 +25,9 @@ public:
     ~Fplan() override;
 
     [[nodiscard]] QList<QAction *> menuBarActions() const override;
-    void command(const QString &key) override;
-    [[nodiscard]] bool stretchColumns(int delta) override;
-    void stretchRows(int delta) override;
+    void command(const QString &cle) override;
+    [[nodiscard]] bool stretchColumns(int twips) override;
+    void stretchRows(int twips) override;
 
     [[nodiscard]] Planning &planning() { return m_planning; }
 

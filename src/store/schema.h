@@ -36,6 +36,9 @@ struct Column {
     QString name;
     QString sqlType;
     bool french = false;
+    bool sought = false; ///< part of an index
+
+    [[nodiscard]] bool isText() const { return sqlType == QLatin1String("TEXT"); }
 };
 
 struct Index {
@@ -53,7 +56,8 @@ struct Schema {
 
     [[nodiscard]] int ordinal(const QString &column) const;
     [[nodiscard]] int index(const QString &name) const; ///< -1 when there is none of that name
-    /// The statements that make the table and its indexes.
+    /// The statements that make the table and its indexes. A column of an index is never null, so that a
+    /// row which another tool wrote without it still has its place in the order.
     [[nodiscard]] QStringList creation() const;
 };
 
@@ -83,7 +87,7 @@ template <class Row> const Schema &schemaOf()
         forEachColumn<Row>([&made](const auto &field, auto type) {
             made.columns.push_back({QString::fromLatin1(field.name),
                                     QString::fromLatin1(ColumnType<typename decltype(type)::type>::sql),
-                                    TableDef<Row>::sortsAsFrench(field.name)});
+                                    TableDef<Row>::sortsAsFrench(field.name), false});
         });
         addIndexes(made, TableDef<Row>::indexes());
         return made;

@@ -91,7 +91,7 @@ private:
 };
 
 /// A run of rows read in one pass, forward. The table's current row doesn't move. At most one pass over the
-/// same run of columns and bounds is open at a time.
+/// same columns of an index is open at a time: a second one within it makes both fail.
 template <class Row> class Rows
 {
 public:
@@ -168,7 +168,8 @@ public:
     /// Begins a change of the current row, read again from the file.
     Status edit()
     {
-        if (!m_hasRow || !reread(m_rowid, m_current)) return m_status = noRow();
+        if (!m_hasRow) return m_status = noRow();
+        if (!reread(m_rowid, m_current)) return m_status.ok() ? m_status = noRow() : m_status;
         m_buffer = m_current;
         m_editMode = EditMode::InProgress;
         return m_status;
@@ -202,6 +203,14 @@ public:
         Status outcome = changedOne(statement);
         if (outcome.ok()) m_hasRow = false;
         return outcome;
+    }
+
+    void release() override
+    {
+        TableBase::release();
+        m_hasRow = m_atEnd = false;
+        m_current = m_buffer = {};
+        m_lastModified = {};
     }
 
     /// The row that `update` wrote last; empty before the first.
