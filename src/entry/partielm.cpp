@@ -79,7 +79,7 @@ Partielm::Partielm(Session &session, Ecrihor ecrihor, QWidget *parent)
     dispose();
     relie();
     montre();
-    m_timer1.start(m_journee.jour ? attenteJourExistant : attenteJourNouveau);
+    m_timer1.start(m_journee.existe() ? attenteJourExistant : attenteJourNouveau);
 }
 
 void Partielm::construit()
@@ -272,6 +272,10 @@ bool Partielm::toutSelectionne(int numero) const
 
 void Partielm::charge()
 {
+    if (m_anormale) {
+        m_session.host.message(QStringLiteral("situation anormale: opération impossible"), titre);
+        return reject();
+    }
     m_saisie.ouvre(m_journee.jour);
     montre();
     if (champ(1)->hasFocus()) champ(1)->selectAll();
@@ -330,7 +334,7 @@ void Partielm::delai()
 
 void Partielm::ok()
 {
-    const bool bon = m_saisie.normhor();
+    const bool bon = m_saisie.valide();
     montre();
     if (!bon) {
         m_session.host.message(QStringLiteral("horaire en anomalie !"), titre);
