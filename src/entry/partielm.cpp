@@ -82,6 +82,11 @@ Partielm::Partielm(Session &session, Ecrihor ecrihor, QWidget *parent)
     m_timer1.start(m_journee.existe() ? attenteJourExistant : attenteJourNouveau);
 }
 
+Partielm::~Partielm()
+{
+    hide(); // the focus leaves its field while what the field's events use is still there
+}
+
 void Partielm::construit()
 {
     setWindowTitle(QStringLiteral("Heures - Horaire"));

@@ -32,6 +32,7 @@ public:
 
     /// Opens on what the session was given for it; `dlgvalide` tells whether hours were stored.
     Partielm(Session &session, Ecrihor ecrihor, QWidget *parent = nullptr);
+    ~Partielm() override;
 
     /// Marks the situation as abnormal before the dialog shows: it then says so and closes. Reserved, nothing
     /// asks for it.
