@@ -81,7 +81,12 @@ Partielm::Partielm(Session &session, Ecrihor ecrihor, QWidget *parent)
     dispose();
     relie();
     montre();
-    m_timer1.start(m_journee.jour ? attenteJourExistant : attenteJourNouveau);
+    m_timer1.start(m_journee.existe() ? attenteJourExistant : attenteJourNouveau);
+}
+
+Partielm::~Partielm()
+{
+    hide(); // the focus leaves its field while what the field's events use is still there
 }
 
 void Partielm::construit()
@@ -274,6 +279,10 @@ bool Partielm::toutSelectionne(int numero) const
 
 void Partielm::charge()
 {
+    if (m_anormale) {
+        m_session.host.message(QStringLiteral("situation anormale: opération impossible"), titre);
+        return reject();
+    }
     m_saisie.ouvre(m_journee.jour);
     montre();
     if (champ(1)->hasFocus()) champ(1)->selectAll();
@@ -332,7 +341,7 @@ void Partielm::delai()
 
 void Partielm::ok()
 {
-    const bool bon = m_saisie.normhor();
+    const bool bon = m_saisie.valide();
     montre();
     if (!bon) {
         m_session.host.message(horaireEnAnomalie(), titre);
