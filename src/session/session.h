@@ -49,7 +49,8 @@ struct Session {
     bool moisouvert = false; ///< the month form is loaded
     int moisvue = 0;         ///< month to open, 1 to 12
     int anvue = 0;
-    QString dossiervue; ///< folder that filters the lines; empty for all
+    int choixmoisdebut = 0; ///< 1 makes the open-month dialog start in January; no command sets it
+    QString dossiervue;     ///< folder that filters the lines; empty for all
     bool modeajout = false;
     QString nometab; ///< name of the establishment, once a dialog has set it
     Affichage affichage;

@@ -1,0 +1,74 @@
+#include "session/qt_host.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <cstdlib>
+
+namespace velmora
+{
+
+namespace
+{
+
+/// A box as the system's messages look: plain text, so that what a user has typed can't be read as markup.
+void prepare(QMessageBox &box, QMessageBox::Icon icon, const QString &text, const QString &title)
+{
+    box.setIcon(icon);
+    box.setWindowTitle(title);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
+}
+
+} // namespace
+
+void QtHost::message(const QString &text, const QString &title)
+{
+    QMessageBox box(QApplication::activeWindow());
+    prepare(box, QMessageBox::Information, text, title);
+    box.addButton(QMessageBox::Ok);
+    box.exec();
+}
+
+bool QtHost::question(const QString &text, const QString &title)
+{
+    if (m_options.answer) return *m_options.answer;
+    QMessageBox box(QApplication::activeWindow());
+    prepare(box, QMessageBox::Question, text, title);
+    const auto *oui = box.addButton(QStringLiteral("&Oui"), QMessageBox::YesRole);
+    auto *non = box.addButton(QStringLiteral("&Non"), QMessageBox::NoRole);
+    box.setEscapeButton(non);
+    box.exec();
+    return box.clickedButton() == oui;
+}
+
+QDate QtHost::today() const
+{
+    return m_options.today.value_or(QDate::currentDate());
+}
+
+QDateTime QtHost::now() const
+{
+    return {today(), QTime::currentTime()};
+}
+
+void QtHost::open(const QString &target)
+{
+    QDesktopServices::openUrl(addressOf(target));
+}
+
+void QtHost::endProcess()
+{
+    std::_Exit(EXIT_FAILURE);
+}
+
+QUrl addressOf(const QString &target)
+{
+    const QFileInfo file(target);
+    return file.exists() ? QUrl::fromLocalFile(file.absoluteFilePath()) : QUrl(target);
+}
+
+} // namespace velmora
