@@ -19,6 +19,7 @@ namespace
 {
 
 constexpr int moisParPage = 12;
+constexpr int lettresDossier = 32;
 
 QLineEdit *affichage(QWidget *parent, const char *nom, const QString &accessible, int chiffres)
 {
@@ -112,7 +113,10 @@ QLayout *Smois::disposeDossiers()
     gras.setBold(true);
     m_label3->setFont(gras);
     m_label3->setTextFormat(Qt::PlainText);
+    m_list1->setSpacing(fontMetrics().height() / 8);
+    m_list1->setMinimumWidth(fontMetrics().averageCharWidth() * lettresDossier);
     auto *const colonne = new QVBoxLayout;
+    colonne->setSpacing(fontMetrics().height() / 2);
     colonne->addWidget(m_label2);
     colonne->addWidget(m_list1, 1);
     colonne->addWidget(m_label3);

@@ -174,6 +174,7 @@ void Mdivel::moisFerme()
 {
     m_session.moisouvert = false;
     montreMenus(m_menus);
+    m_mois->disconnect(this);
     m_centre->removeWidget(m_mois);
     m_mois->deleteLater();
     m_mois.clear();

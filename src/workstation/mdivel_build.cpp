@@ -137,6 +137,7 @@ void Mdivel::construitCurseurs()
 QSlider *Mdivel::curseur(const char *nomCadre, const char *nom, const QString &caption)
 {
     auto *const cadre = nomme(new QFrame(m_toolbar1), nomCadre);
+    cadre->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     auto *const titreCadre = new QLabel(caption, cadre);
     auto *const slider = nomme(new QSlider(Qt::Horizontal, cadre), nom);
     slider->setSingleStep(pasCurseur);
@@ -174,6 +175,7 @@ QWidget *Mdivel::construitAccueil()
     image->setAlignment(Qt::AlignCenter);
     auto *const ouvrir = new QPushButton(iconeBouton(Bouton::Open), boutons().front().bulle, page);
     ouvrir->setObjectName(QStringLiteral("accueilOuvrir"));
+    ouvrir->setMinimumHeight(fontMetrics().height() * 2);
     ouvrir->setEnabled(bool(m_ouvertures.mois));
     connect(ouvrir, &QPushButton::clicked, this, &Mdivel::mnuoldfen);
     auto *const colonne = new QVBoxLayout(page);

@@ -331,6 +331,29 @@ TEST_F(MdivelTest, CloseClosesTheMonthThenReleasesThenSaves)
     EXPECT_EQ(session.base.agent.row().affichage.haut1, 777);
 }
 
+TEST_F(MdivelTest, AClosedMonthHasNoMoreSayInTheToolbar)
+{
+    start();
+    openMonth();
+    const QPointer<NotedMonth> gone = month;
+    month->close();
+    ASSERT_NE(gone, nullptr);
+    emit gone->commandsChanged(ToolbarState::onRefresh({}));
+    emit gone->ready();
+    EXPECT_FALSE(shows(button("Couper")));
+    EXPECT_FALSE(shows(slider("HScroll1")));
+}
+
+TEST_F(MdivelTest, ActivatedWhileMinimisedItComesBack)
+{
+    start();
+    window->showMinimized();
+    QApplication::setActiveWindow(nullptr);
+    ASSERT_TRUE(window->isMinimized());
+    QApplication::setActiveWindow(window.get());
+    EXPECT_FALSE(window->isMinimized());
+}
+
 TEST_F(MdivelTest, ABackupThatLeavesTheDatabasesClosedClosesTheWindow)
 {
     struct Case {
