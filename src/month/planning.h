@@ -43,6 +43,8 @@ struct Planning {
 
     bool suivi = false; ///< the grid reacts; false while it is loaded or changed by the program
     Place curseur{Grille::lignesFixes, Grille::colonnesFixes};
+    int colprec = Grille::colonnesFixes; ///< the cell that the cursor last stood on
+    int rowprec = Grille::lignesFixes;
     int colonneGauche = Grille::colonnesFixes; ///< first day column in view
     Surbrillance surbrillance;
     bool rapportdemande = false; ///< the next refresh shows the labour report of the current line

@@ -71,20 +71,27 @@ QString questionDisque()
     return QStringLiteral("Problème accès disque! réessayer ?");
 }
 
+namespace
+{
+
+Status unLot(Session &session, const std::function<Status()> &work)
+{
+    Batch batch(session);
+    Status status = batch.begin();
+    if (status.ok()) status = work();
+    const Status committed = batch.commit();
+    return status.ok() ? committed : status;
+}
+
+} // namespace
+
 void enLot(Session &session, const std::function<Status()> &work)
 {
     for (;;) {
-        Status status;
-        {
-            Batch batch(session);
-            status = batch.begin();
-            if (status.ok()) status = work();
-            const Status committed = batch.commit();
-            if (status.ok()) status = committed;
-        }
+        const Status status = session.batch ? work() : unLot(session, work);
         if (status.ok()) return;
-        session.base.sitper.cancelUpdate();
-        session.base.absences.cancelUpdate();
+        session.base.cancelUpdates();
+        const Batch::Pause released(session.batch);
         const bool busy = status.code() == Status::Code::Busy;
         if (!session.host.question(busy ? questionBloquage() : questionDisque(), titre))
             session.host.endProcess();

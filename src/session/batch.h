@@ -23,7 +23,8 @@ public:
     [[nodiscard]] store::Status commit();
     void rollback();
 
-    /// Commits a running batch, so that no lock is held, until the end of its scope.
+    /// Commits a running batch, so that no lock is held, until the end of its scope. A batch that can't take
+    /// the lock again goes on without it, row by row.
     class Pause
     {
     public:
@@ -60,6 +61,7 @@ private:
 /// Runs the changes of one command as a batch. `work` stops at its first failure and says it. Then what
 /// stands is committed and the user is asked, in the words of the guards for a file that another workstation
 /// holds and of the disk for anything else: on Yes the whole command runs again, on No the process ends.
+/// A batch within a batch joins it: a wait that lets events run may start another command.
 void enLot(Session &session, const std::function<store::Status()> &work);
 
 /// A read transaction around a pass, so that the pass sees one state of the file and locks it once. Within

@@ -13,12 +13,13 @@
 namespace velmora
 {
 
+using store::Status;
+
 namespace
 {
 
 // A ring of fewer rows gets its 31; the bound is wanted as it is and has no relation to them.
 constexpr int lignesAnneauMini = 6;
-constexpr int versionJournal = 2;
 
 bool refuse(Session &session, const QString &message)
 {
@@ -26,67 +27,82 @@ bool refuse(Session &session, const QString &message)
     return false;
 }
 
-void ajouteChemin(Session &session)
+Status ajouteChemin(Session &session)
 {
     auto &chemin = session.journal.chemin;
-    if (!ajoutgarde(session, chemin).ok()) return;
+    const Status libre = ajoutgarde(session, chemin);
+    if (!libre.ok()) return libre;
     chemin.values() = {1, versionJournal, session.cheminjournal};
-    chemin.update().ignore();
+    return chemin.update();
 }
 
 /// What the journal says wins over the second folder given at the start.
-void lieBase(Session &session)
+Status lieBase(Session &session)
 {
     auto &chemin = session.journal.chemin;
     if (chemin.first()) {
         session.cheminbase = chemin.row().chemin;
-    } else {
-        ajouteChemin(session);
-        session.cheminbase = session.cheminjournal;
+        return {};
     }
+    if (!chemin.status().ok()) return chemin.status();
+    session.cheminbase = session.cheminjournal;
+    return ajouteChemin(session);
 }
 
-void prepareAnneau(Session &session)
+Status prepareAnneau(Session &session)
 {
     auto &logop = session.journal.logop;
-    if (logop.recordCount() >= lignesAnneauMini) return;
+    if (logop.recordCount() >= lignesAnneauMini || !logop.status().ok()) return logop.status();
     for (int numop = 0; numop <= session.nblog; ++numop) {
-        if (!ajoutgarde(session, logop).ok()) return;
+        Status status = ajoutgarde(session, logop);
+        if (!status.ok()) return status;
         logop.values() = {
             numop, numop, numop == 0 ? session.nblog : 0, QStringLiteral(""), QStringLiteral(""), false};
-        logop.update().ignore();
+        status = logop.update();
+        if (!status.ok()) return status;
     }
+    return {};
 }
 
-/// The opening once the journal's tables stand.
-bool ouvreLiaison(Session &session)
+Status prepareJournal(Session &session)
 {
-    auto &engine = session.journal.engine;
-    if (!engine.begin(store::Engine::Transaction::Write).ok()) return false;
-    lieBase(session);
-    if (!QFileInfo(session.cheminbase + store::fichierBase).exists()) {
-        engine.rollback();
-        return refuse(session, QStringLiteral("la base de données ") + session.cheminbase +
-                                   QStringLiteral("velmora.mdb n'est pas retouvée, relancer Velmora"));
-    }
     session.nblog = 30;
-    prepareAnneau(session);
+    const Status anneau = prepareAnneau(session);
+    if (!anneau.ok()) return anneau;
     liretete(session);
     videsitco(session);
     session.nivcour = 0;
     session.opcour = 0;
-    return engine.commit().ok();
+    return session.journal.engine.commit();
 }
 
-/// Copies a file over another and deletes it. An unfinished transaction of the old content goes with it.
+/// How the opening ends once the journal's tables stand.
+enum class Liaison { Etablie, BaseAbsente, Echec };
+
+/// Ties the session to its main database. The tie stays written when there is no file at its end: only the
+/// start stops.
+Liaison ouvreLiaison(Session &session)
+{
+    auto &engine = session.journal.engine;
+    if (!engine.begin(store::Engine::Transaction::Write).ok()) return Liaison::Echec;
+    if (!lieBase(session).ok()) return Liaison::Echec;
+    if (!QFileInfo::exists(session.cheminbase + store::fichierBase)) {
+        engine.commit().ignore();
+        refuse(session, QStringLiteral("la base de données ") + session.cheminbase +
+                            QStringLiteral("velmora.mdb n'est pas retouvée, relancer Velmora"));
+        return Liaison::BaseAbsente;
+    }
+    return prepareJournal(session).ok() ? Liaison::Etablie : Liaison::Echec;
+}
+
+/// Puts a file in the place of another, whole or not at all. An unfinished transaction of the old content
+/// goes with it.
 bool remplaceFichier(const QString &source, const QString &cible)
 {
-    namespace fs = std::filesystem;
-    std::error_code erreur;
-    fs::copy_file(source.toStdString(), cible.toStdString(), fs::copy_options::overwrite_existing, erreur);
-    if (erreur) return false;
     QFile::remove(cible + QStringLiteral("-journal"));
-    return QFile::remove(source);
+    std::error_code erreur;
+    std::filesystem::rename(source.toStdString(), cible.toStdString(), erreur);
+    return !erreur;
 }
 
 /// The repair works on the file of the second folder and the reopening takes that of the first, a
@@ -96,20 +112,39 @@ bool reparelog(Session &session)
     const QString endommage = session.cheminbase + store::fichierJournal;
     const QString neuf = session.cheminbase + store::fichierReparation;
     const bool repare = store::salvageJournal(endommage, neuf).ok() && remplaceFichier(neuf, endommage);
-    if (repare && session.journal.open(session.cheminjournal + store::fichierJournal).ok())
-        return ouvreLiaison(session);
+    if (repare && session.journal.open(session.cheminjournal + store::fichierJournal).ok()) {
+        const Liaison liaison = ouvreLiaison(session);
+        if (liaison != Liaison::Echec) return liaison == Liaison::Etablie;
+    }
+    session.journal.close();
     return refuse(session, QStringLiteral("Velmora ne peut ouvrir la base de données ") +
                                session.cheminjournal +
                                QStringLiteral("velmoralog.mdb, relancez l'application!"));
 }
 
-void ajouteTnum(Session &session)
+Status ajouteTnum(Session &session)
 {
     auto &tnum = session.base.tnum;
-    if (!ajoutgarde(session, tnum).ok()) return;
+    const Status libre = ajoutgarde(session, tnum);
+    if (!libre.ok()) return libre;
     const QString version = session.base.engine.version();
     tnum.values() = {QStringLiteral(""), version.section(QLatin1Char('.'), 0, 1).toDouble(), 1};
-    tnum.update().ignore();
+    return tnum.update();
+}
+
+/// Gives the table its row. It is looked for again under the write lock, so that two workstations that start
+/// on a new file don't add one each.
+Status prepareTnum(Session &session)
+{
+    auto &tnum = session.base.tnum;
+    auto &engine = session.base.engine;
+    if (tnum.first() || !tnum.status().ok()) return tnum.status();
+    Status status = engine.begin(store::Engine::Transaction::Write);
+    if (status.ok() && !tnum.first()) status = tnum.status().ok() ? ajouteTnum(session) : tnum.status();
+    if (status.ok()) status = engine.commit();
+    engine.rollback();
+    if (status.ok() && !tnum.first()) status = tnum.status();
+    return status;
 }
 
 } // namespace
@@ -123,14 +158,14 @@ bool ouvrejournal(Session &session)
                                    QStringLiteral(" non retrouvée ! relancer Velmora"));
     }
     if (!session.journal.open(fichier).ok()) return reparelog(session);
-    return ouvreLiaison(session);
+    return ouvreLiaison(session) == Liaison::Etablie;
 }
 
 bool ouvrebase(Session &session)
 {
     session.urlaide = QStringLiteral("https://aide.velmora.example/calcul-des-heures/");
     if (!session.base.open(session.cheminjournal + store::fichierBase).ok()) return false;
-    if (!session.base.tnum.first()) ajouteTnum(session);
+    if (!prepareTnum(session).ok()) return false;
     return session.base.agent.first() || session.base.agent.status().ok();
 }
 

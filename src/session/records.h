@@ -14,11 +14,15 @@ namespace velmora
 /// Puts `parcg` on the set in force at the date, or failing that on the oldest set.
 void jeuaudate(Session &session, const QDate &date);
 
-/// Deletes every row of a table, from the first to the end.
+/// Deletes every row of a table, from the first to the end. A row that another workstation deletes meanwhile
+/// is passed; any other failure stops the walk.
 template <class Row> void videtable(Session &session, store::Table<Row> &table)
 {
-    for (bool found = table.first(); found; found = table.next())
-        if (!supprgarde(session, table).ok()) return;
+    using Code = store::Status::Code;
+    for (bool found = table.first(); found; found = table.next()) {
+        const Code code = supprgarde(session, table).code();
+        if (code != Code::Ok && code != Code::NoRow) return;
+    }
 }
 
 /// The absence of a line that covers a date, or null: the last span that begins on or before the date, else

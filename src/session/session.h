@@ -16,6 +16,12 @@ class Batch;
 /// plain members: each is written where its comment says and read by whoever needs it.
 struct Session {
     explicit Session(Host &theHost) : host(theHost) {}
+    /// A session over engines other than the embedded one.
+    Session(Host &theHost, std::unique_ptr<store::Engine> baseEngine,
+            std::unique_ptr<store::Engine> journalEngine)
+        : host(theHost), base(std::move(baseEngine)), journal(std::move(journalEngine))
+    {
+    }
     Session(const Session &) = delete;
     Session &operator=(const Session &) = delete;
 

@@ -45,7 +45,7 @@ int valeurMes(const QString &mes)
 {
     if (mes.isNull()) return mesParDefaut;
     const QString texte = mes.trimmed();
-    qsizetype longueur = texte.startsWith(QLatin1Char('-')) ? 1 : 0;
+    qsizetype longueur = texte.startsWith(QLatin1Char('-')) || texte.startsWith(QLatin1Char('+')) ? 1 : 0;
     while (longueur < texte.size() && texte[longueur] >= u'0' && texte[longueur] <= u'9')
         ++longueur;
     return static_cast<qint16>(texte.first(longueur).toLongLong());

@@ -49,7 +49,10 @@ QDate ColumnType<QDate>::read(const Statement &statement, int column)
 {
     const auto text = statement.columnText(column);
     if (text.size() < isoDateLength || text[4] != '-' || text[7] != '-') return {};
-    return {digits(text, 0, 4), digits(text, 5, 2), digits(text, 8, 2)};
+    const int year = digits(text, 0, 4);
+    // Years below 0 are dates too, so what is no number has to be told apart.
+    if (year < 0) return {};
+    return {year, digits(text, 5, 2), digits(text, 8, 2)};
 }
 
 void ColumnType<QDateTime>::bind(Statement &statement, int position, const QDateTime &value)

@@ -37,12 +37,6 @@ Status checkStructure(Engine &engine)
     return {Status::Code::Damaged, QStringLiteral("the file's structure is damaged")};
 }
 
-template <class... Tables> void releaseAll(Tables &...tables)
-{
-    (tables.cancelUpdate(), ...);
-    (tables.release(), ...);
-}
-
 } // namespace
 
 std::vector<const Schema *> MainDatabase::schemas()
@@ -55,17 +49,30 @@ std::vector<const Schema *> MainDatabase::schemas()
 
 Status MainDatabase::open(const QString &path)
 {
+    close();
     Status status = engine.open(path, {});
     if (status.ok()) status = checkTables(engine, schemas());
-    if (status.ok()) status = engine.keepJournalFile();
+    if (status.ok()) status = engine.adopt();
     if (!status.ok()) close();
     return status;
 }
 
+std::vector<TableBase *> MainDatabase::tables()
+{
+    return {&agent, &tnum, &ferie, &parcg, &sitper, &ligmois, &absences, &codabs, &groupe};
+}
+
 void MainDatabase::close()
 {
-    releaseAll(agent, tnum, ferie, parcg, sitper, ligmois, absences, codabs, groupe);
+    for (TableBase *table : tables())
+        table->release();
     engine.close();
+}
+
+void MainDatabase::cancelUpdates()
+{
+    for (TableBase *table : tables())
+        table->cancelUpdate();
 }
 
 std::vector<const Schema *> JournalDatabase::schemas()
@@ -76,17 +83,19 @@ std::vector<const Schema *> JournalDatabase::schemas()
 
 Status JournalDatabase::open(const QString &path)
 {
+    close();
     Status status = engine.open(path, {.exclusive = true, .busyWait = journalWait});
     if (status.ok()) status = checkStructure(engine);
     if (status.ok()) status = checkTables(engine, schemas());
-    if (status.ok()) status = engine.keepJournalFile();
+    if (status.ok()) status = engine.adopt();
     if (!status.ok()) close();
     return status;
 }
 
 void JournalDatabase::close()
 {
-    releaseAll(chemin, sitlog, logop, logabs, sitco);
+    for (TableBase *table : std::initializer_list<TableBase *>{&chemin, &sitlog, &logop, &logabs, &sitco})
+        table->release();
     engine.close();
 }
 

@@ -14,7 +14,13 @@ inline const QString fichierReparation = QStringLiteral("genvelmoralog.mdb");
 
 /// The main database: the planning that all workstations share. Its tables stay open for the session.
 struct MainDatabase {
-    SqliteEngine engine;
+    explicit MainDatabase(std::unique_ptr<Engine> theEngine = std::make_unique<SqliteEngine>())
+        : held(std::move(theEngine))
+    {
+    }
+
+    std::unique_ptr<Engine> held;
+    Engine &engine = *held;
     Table<Agent> agent{engine};
     Table<Tnum> tnum{engine};
     Table<JourFerie> ferie{engine};
@@ -28,13 +34,24 @@ struct MainDatabase {
     /// Opens the file and checks that every table is there with its columns.
     [[nodiscard]] Status open(const QString &path);
     void close();
+    /// Drops whatever change is under way on a table, as before a command runs again.
+    void cancelUpdates();
     /// Every table of the file, the one that is only required to exist included.
     [[nodiscard]] static std::vector<const Schema *> schemas();
+
+private:
+    [[nodiscard]] std::vector<TableBase *> tables();
 };
 
 /// The journal database: the workstation's own file, held exclusively.
 struct JournalDatabase {
-    SqliteEngine engine;
+    explicit JournalDatabase(std::unique_ptr<Engine> theEngine = std::make_unique<SqliteEngine>())
+        : held(std::move(theEngine))
+    {
+    }
+
+    std::unique_ptr<Engine> held;
+    Engine &engine = *held;
     Table<Chemin> chemin{engine};
     Table<ImageSit> sitlog{engine};
     Table<Operation> logop{engine};

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <string_view>
@@ -41,6 +42,15 @@ public:
     [[nodiscard]] virtual std::string_view columnText(int column) const = 0;
 };
 
+/// How a database is opened.
+struct OpenOptions {
+    bool create = false;    ///< make the file when it is missing
+    bool readOnly = false;  ///< open without the right to write
+    bool exclusive = false; ///< keep the file to this session from the opening on
+    /// How long an operation waits for another session's lock before it fails as busy.
+    std::chrono::milliseconds busyWait{5000};
+};
+
 /// A database engine that holds one open database.
 class Engine
 {
@@ -53,6 +63,13 @@ public:
     Engine(const Engine &) = delete;
     Engine &operator=(const Engine &) = delete;
     virtual ~Engine() = default;
+
+    /// Opens `path`, after closing what was open. A file that is no database of the engine, or that can't be
+    /// locked as asked, is a failure, and nothing is written to it.
+    [[nodiscard]] virtual Status open(const QString &path, const OpenOptions &options) = 0;
+    virtual void close() = 0;
+    /// Said once the open file is known as one of ours: the engine may now write its own settings to it.
+    [[nodiscard]] virtual Status adopt() = 0;
 
     /// Null on failure; `status` says why.
     [[nodiscard]] virtual std::unique_ptr<Statement> prepare(const QString &sql) = 0;

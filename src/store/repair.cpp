@@ -3,6 +3,7 @@
 #include "store/databases.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 namespace velmora::store
 {
@@ -10,28 +11,27 @@ namespace velmora::store
 namespace
 {
 
-constexpr qint64 headerLength = 100;
-constexpr int applicationIdOffset = 68;
-
-/// A file of the engine's format that carries the journal's mark, however damaged the rest is.
-Status checkHeader(const QString &path)
+/// A file that carries the journal's mark, however damaged the rest is. The engine reads it: opening the file
+/// beside the engine would let go of the locks that a session of this process may hold on it.
+Status checkMark(Engine &engine)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return {Status::Code::CantOpen, file.errorString()};
-    const QByteArray header = file.read(headerLength);
-    const Status foreign{Status::Code::NotADatabase, QStringLiteral("the file is no journal")};
-    if (header.size() < headerLength || !header.startsWith("SQLite format 3")) return foreign;
-    int mark = 0;
-    for (int i = 0; i < 4; ++i)
-        mark = mark * 256 + static_cast<unsigned char>(header[applicationIdOffset + i]);
-    return mark == static_cast<int>(FileKind::Journal) ? Status{} : foreign;
+    const auto mark = engine.prepare(QStringLiteral("PRAGMA application_id"));
+    if (mark && mark->step() == Statement::Step::Row &&
+        mark->columnInt(0) == static_cast<std::int64_t>(FileKind::Journal))
+        return {};
+    return {Status::Code::NotADatabase, QStringLiteral("the file is no journal")};
 }
 
-/// Opens the damaged file for this session alone. Damage that shows here is no obstacle, a lock is.
+/// Opens the damaged file while no other session has it, and begins to read it. A repair would put a file
+/// that can be written in the place of one that can't, so that one is refused.
 Status openDamaged(SqliteEngine &engine, const QString &path)
 {
+    if (QFileInfo(path).isFile() && !QFileInfo(path).isWritable())
+        return {Status::Code::ReadOnly, QStringLiteral("the file can't be written")};
     Status status = engine.open(path, {.readOnly = true, .busyWait = std::chrono::milliseconds(300)});
+    if (status.ok()) status = checkMark(engine);
     if (!status.ok()) return status;
+    // Damage that shows here is no obstacle, a lock is.
     status = engine.execute(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE"));
     return status.code() == Status::Code::Busy ? status : Status{};
 }
@@ -85,6 +85,13 @@ Status salvageTable(Engine &damaged, Engine &target, const Schema &schema)
     return {};
 }
 
+/// Slots are told by their head row's counts. Without it the opening makes a new ring.
+Status dropHeadlessRing(Engine &target)
+{
+    return target.execute(
+        QStringLiteral("DELETE FROM logop WHERE NOT EXISTS (SELECT 1 FROM logop WHERE numop = 0)"));
+}
+
 Status salvageInto(Engine &damaged, const QString &target)
 {
     SqliteEngine engine;
@@ -92,6 +99,7 @@ Status salvageInto(Engine &damaged, const QString &target)
     if (status.ok()) status = engine.begin(Engine::Transaction::Write);
     for (const Schema *schema : JournalDatabase::schemas())
         if (status.ok()) status = salvageTable(damaged, engine, *schema);
+    if (status.ok()) status = dropHeadlessRing(engine);
     if (status.ok()) status = engine.commit();
     return status;
 }
@@ -100,10 +108,8 @@ Status salvageInto(Engine &damaged, const QString &target)
 
 Status salvageJournal(const QString &damaged, const QString &target)
 {
-    Status status = checkHeader(damaged);
-    if (!status.ok()) return status;
     SqliteEngine engine;
-    status = openDamaged(engine, damaged);
+    Status status = openDamaged(engine, damaged);
     if (!status.ok()) return status;
     QFile::remove(target);
     status = createDatabase(target, FileKind::Journal);

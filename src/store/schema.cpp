@@ -16,6 +16,14 @@ QString columnList(const Schema &schema, const Index &index)
     return names.join(QStringLiteral(", "));
 }
 
+/// A clustered table's key has no default: a row without it is refused.
+QString emptyDefault(const Schema &schema, const Column &column)
+{
+    if (schema.clustered || !column.sought) return {};
+    return QStringLiteral(" NOT NULL DEFAULT ") +
+           (column.isText() ? QStringLiteral("''") : QStringLiteral("0"));
+}
+
 } // namespace
 
 int Schema::ordinal(const QString &column) const
@@ -36,7 +44,7 @@ QStringList Schema::creation() const
 {
     QStringList definitions;
     for (const Column &column : columns)
-        definitions << column.name + QLatin1Char(' ') + column.sqlType;
+        definitions << column.name + QLatin1Char(' ') + column.sqlType + emptyDefault(*this, column);
     if (clustered) {
         definitions << QStringLiteral("CONSTRAINT %1 PRIMARY KEY (%2)")
                            .arg(indexes.front().name, columnList(*this, indexes.front()));
@@ -57,8 +65,10 @@ void addIndexes(Schema &schema, const std::vector<IndexDef> &indexes)
 {
     for (const IndexDef &declared : indexes) {
         Index index{QString::fromLatin1(declared.name), {}, declared.unique};
-        for (const char *column : declared.columns)
+        for (const char *column : declared.columns) {
             index.columns.push_back(schema.ordinal(QString::fromLatin1(column)));
+            schema.columns[static_cast<std::size_t>(index.columns.back())].sought = true;
+        }
         schema.indexes.push_back(std::move(index));
     }
 }

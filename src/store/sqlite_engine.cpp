@@ -35,18 +35,23 @@ public:
 
     void bindInt(int position, std::int64_t value) override
     {
-        sqlite3_bind_int64(m_statement, position, value);
+        bound(sqlite3_bind_int64(m_statement, position, value));
     }
-    void bindReal(int position, double value) override { sqlite3_bind_double(m_statement, position, value); }
+    void bindReal(int position, double value) override
+    {
+        bound(sqlite3_bind_double(m_statement, position, value));
+    }
     void bindText(int position, std::string_view utf8) override
     {
-        sqlite3_bind_text(m_statement, position, utf8.data(), static_cast<int>(utf8.size()),
-                          SQLITE_TRANSIENT);
+        bound(sqlite3_bind_text64(m_statement, position, utf8.data(), utf8.size(), SQLITE_TRANSIENT,
+                                  SQLITE_UTF8));
     }
-    void bindNull(int position) override { sqlite3_bind_null(m_statement, position); }
+    void bindNull(int position) override { bound(sqlite3_bind_null(m_statement, position)); }
 
     Step step() override
     {
+        // A value that couldn't be bound must not run as the one before it.
+        if (!m_status.ok()) return Step::Failed;
         const int result = sqlite3_step(m_statement);
         if (result == SQLITE_ROW) return Step::Row;
         if (result == SQLITE_DONE) return Step::Done;
@@ -74,6 +79,11 @@ public:
     }
 
 private:
+    void bound(int result)
+    {
+        if (result != SQLITE_OK && m_status.ok()) m_status = failure(m_database, result);
+    }
+
     sqlite3 *m_database;
     sqlite3_stmt *m_statement;
     Status m_status;
@@ -110,8 +120,8 @@ SqliteEngine::~SqliteEngine()
 
 void SqliteEngine::close()
 {
-    m_begin[0].reset();
-    m_begin[1].reset();
+    for (auto &statement : m_begin)
+        statement.reset();
     m_commit.reset();
     sqlite3_close_v2(m_database);
     m_database = nullptr;
@@ -122,7 +132,7 @@ Status SqliteEngine::noted(int result) const
     return failure(m_database, result);
 }
 
-Status SqliteEngine::open(const QString &path, const SqliteOptions &options)
+Status SqliteEngine::open(const QString &path, const OpenOptions &options)
 {
     close();
     int flags = options.readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
@@ -135,7 +145,7 @@ Status SqliteEngine::open(const QString &path, const SqliteOptions &options)
     return status;
 }
 
-Status SqliteEngine::configure(const SqliteOptions &options)
+Status SqliteEngine::configure(const OpenOptions &options)
 {
     sqlite3_busy_timeout(m_database, static_cast<int>(options.busyWait.count()));
     sqlite3_extended_result_codes(m_database, 1);
@@ -152,7 +162,7 @@ Status SqliteEngine::configure(const SqliteOptions &options)
     return status;
 }
 
-Status SqliteEngine::keepJournalFile()
+Status SqliteEngine::adopt()
 {
     return execute(QStringLiteral("PRAGMA journal_mode = TRUNCATE"));
 }
@@ -172,13 +182,9 @@ Status SqliteEngine::execute(const QString &sql)
     return noted(sqlite3_exec(m_database, sql.toUtf8().constData(), nullptr, nullptr, nullptr));
 }
 
-Status SqliteEngine::begin(Transaction kind)
+Status SqliteEngine::runKept(std::unique_ptr<Statement> &statement, const QString &sql)
 {
-    auto &statement = m_begin[kind == Transaction::Write];
-    if (!statement) {
-        statement =
-            prepare(kind == Transaction::Write ? QStringLiteral("BEGIN IMMEDIATE") : QStringLiteral("BEGIN"));
-    }
+    if (!statement) statement = prepare(sql);
     if (!statement) return status();
     const auto step = statement->step();
     const Status outcome = step == Statement::Step::Failed ? statement->status() : Status{};
@@ -186,14 +192,15 @@ Status SqliteEngine::begin(Transaction kind)
     return outcome;
 }
 
+Status SqliteEngine::begin(Transaction kind)
+{
+    if (kind == Transaction::Write) return runKept(m_begin[1], QStringLiteral("BEGIN IMMEDIATE"));
+    return runKept(m_begin[0], QStringLiteral("BEGIN"));
+}
+
 Status SqliteEngine::commit()
 {
-    if (!m_commit) m_commit = prepare(QStringLiteral("COMMIT"));
-    if (!m_commit) return status();
-    const auto step = m_commit->step();
-    const Status outcome = step == Statement::Step::Failed ? m_commit->status() : Status{};
-    m_commit->reset();
-    return outcome;
+    return runKept(m_commit, QStringLiteral("COMMIT"));
 }
 
 void SqliteEngine::rollback()

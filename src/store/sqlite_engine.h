@@ -2,20 +2,10 @@
 
 #include "store/engine.h"
 
-#include <chrono>
-
 struct sqlite3;
 
 namespace velmora::store
 {
-
-/// How a file is opened.
-struct SqliteOptions {
-    bool create = false;    ///< make the file when it is missing
-    bool readOnly = false;  ///< open without the right to write
-    bool exclusive = false; ///< keep the file to this session from the opening on
-    std::chrono::milliseconds busyWait{5000};
-};
 
 /// The embedded engine: one SQLite file. Rollback journal and full synchronisation, since the main file may
 /// lie in a shared folder.
@@ -25,13 +15,11 @@ public:
     SqliteEngine();
     ~SqliteEngine() override;
 
-    /// Opens `path`. A file that is no SQLite database, or that can't be locked as asked, is a failure, and
-    /// nothing is written to it.
-    [[nodiscard]] Status open(const QString &path, const SqliteOptions &options);
-    void close();
+    [[nodiscard]] Status open(const QString &path, const OpenOptions &options) override;
+    void close() override;
     /// Truncates the rollback journal after a transaction rather than deleting it, which spares a shared
-    /// folder a write. Said only of a file that is known as ours, since it may write to it.
-    [[nodiscard]] Status keepJournalFile();
+    /// folder a write.
+    [[nodiscard]] Status adopt() override;
 
     [[nodiscard]] std::unique_ptr<Statement> prepare(const QString &sql) override;
     [[nodiscard]] Status execute(const QString &sql) override;
@@ -45,8 +33,10 @@ public:
     [[nodiscard]] QString version() const override;
 
 private:
-    [[nodiscard]] Status configure(const SqliteOptions &options);
+    [[nodiscard]] Status configure(const OpenOptions &options);
     [[nodiscard]] Status noted(int result) const;
+    /// Runs a statement that is prepared at its first use and kept.
+    [[nodiscard]] Status runKept(std::unique_ptr<Statement> &statement, const QString &sql);
 
     sqlite3 *m_database = nullptr;
     std::unique_ptr<Statement> m_begin[2];

@@ -1,6 +1,9 @@
 #include "store/table_base.h"
 
 #include "store/collation.h"
+#include "store/column_types.h"
+
+#include <numeric>
 
 namespace velmora::store
 {
@@ -20,16 +23,18 @@ const char *symbol(Cmp comparison)
     return "=";
 }
 
-QString placeholders(qsizetype count)
+/// The first columns of an index.
+std::vector<int> leading(const Index &index, std::size_t parts)
 {
-    return QStringList(count, QStringLiteral("?")).join(QLatin1Char(','));
+    return {index.columns.begin(),
+            index.columns.begin() + static_cast<std::ptrdiff_t>(std::min(parts, index.columns.size()))};
 }
 
-/// "(a, b) >= (?, ?)".
-QString comparison(const QStringList &columns, const char *op)
+std::vector<int> everyColumn(const Schema &schema)
 {
-    return QStringLiteral("(%1) %2 (%3)")
-        .arg(columns.join(QLatin1Char(',')), QString::fromLatin1(op), placeholders(columns.size()));
+    std::vector<int> columns(schema.columns.size());
+    std::iota(columns.begin(), columns.end(), 0);
+    return columns;
 }
 
 // Kinds of statement, the high part of a shortcut.
@@ -90,6 +95,15 @@ void TableBase::cancelUpdate()
     m_updatePending = false;
 }
 
+void TableBase::release()
+{
+    cancelUpdate();
+    m_shortcuts.clear();
+    m_ranges.clear();
+    m_statements.clear();
+    m_index = 0;
+}
+
 Status TableBase::run(Slot &statement)
 {
     const auto step = statement->step();
@@ -106,15 +120,17 @@ TableBase::Slot &TableBase::prepared(const QString &sql)
     return slot;
 }
 
-template <class MakeSql> TableBase::Slot &TableBase::cached(std::int64_t shortcutKey, MakeSql &&makeSql)
+template <class Shortcuts, class MakeSql>
+TableBase::Slot &TableBase::cached(Shortcuts &shortcuts, const typename Shortcuts::key_type &key,
+                                   MakeSql &&makeSql)
 {
-    const auto known = m_shortcuts.find(shortcutKey);
-    if (known != m_shortcuts.end() && *known->second) {
+    const auto known = shortcuts.find(key);
+    if (known != shortcuts.end() && *known->second) {
         m_status = {};
         return *known->second;
     }
     Slot &slot = prepared(makeSql());
-    m_shortcuts[shortcutKey] = &slot;
+    shortcuts[key] = &slot;
     return slot;
 }
 
@@ -133,42 +149,61 @@ QString TableBase::selectAll() const
     return QStringLiteral("SELECT %1 FROM %2").arg(names.join(QLatin1Char(',')), m_schema.table);
 }
 
-QStringList TableBase::orderColumns(const Index &ordered) const
+QString TableBase::placeholder(int column) const
+{
+    const Column &named = m_schema.columns[static_cast<std::size_t>(column)];
+    const bool neverNull = hasRowid() && named.sought && named.isText();
+    return neverNull ? QStringLiteral("ifnull(?, '')") : QStringLiteral("?");
+}
+
+/// "(a, b) >= (?, ?)". With the identity, rows of one key are told apart.
+QString TableBase::comparison(const std::vector<int> &columns, const char *op, bool withIdentity) const
 {
     QStringList names;
-    for (const int column : ordered.columns)
+    QStringList values;
+    for (const int column : columns) {
         names << columnName(column, true);
-    // Rows of one key are told apart by their identity.
-    if (!m_schema.clustered) names << QStringLiteral("rowid");
-    return names;
+        values << placeholder(column);
+    }
+    if (withIdentity && hasRowid()) {
+        names << QStringLiteral("rowid");
+        values << QStringLiteral("?");
+    }
+    const QLatin1Char comma(',');
+    return QStringLiteral("(%1) %2 (%3)").arg(names.join(comma), QLatin1String(op), values.join(comma));
 }
 
 QString TableBase::order(const Index &ordered, bool forward) const
 {
+    QStringList names;
+    for (const int column : ordered.columns)
+        names << columnName(column, true);
+    if (hasRowid()) names << QStringLiteral("rowid");
     const QString direction = forward ? QStringLiteral(" ASC") : QStringLiteral(" DESC");
-    return QStringLiteral(" ORDER BY ") + orderColumns(ordered).join(direction + QLatin1Char(',')) +
-           direction;
+    return QStringLiteral(" ORDER BY ") + names.join(direction + QLatin1Char(',')) + direction;
+}
+
+QString TableBase::equality(const std::vector<int> &columns) const
+{
+    QStringList terms;
+    for (const int column : columns)
+        terms << columnName(column, false) + QStringLiteral(" = ") + placeholder(column);
+    return terms.join(QStringLiteral(" AND "));
 }
 
 QString TableBase::identity() const
 {
-    if (!m_schema.clustered) return QStringLiteral("rowid = ?");
-    QStringList terms;
-    for (const int column : primary().columns)
-        terms << columnName(column, false) + QStringLiteral(" = ?");
-    return terms.join(QStringLiteral(" AND "));
+    return hasRowid() ? QStringLiteral("rowid = ?") : equality(primary().columns);
 }
 
 TableBase::Slot &TableBase::seekStatement(Cmp wanted, std::size_t parts)
 {
-    return cached(shortcut(Seek, m_index, static_cast<int>(wanted), static_cast<int>(parts)), [&] {
-        QStringList columns;
-        for (std::size_t i = 0; i < parts && i < index().columns.size(); ++i)
-            columns << columnName(index().columns[i], wanted != Cmp::Eq);
+    const auto key = shortcut(Seek, m_index, static_cast<int>(wanted), static_cast<int>(parts));
+    return cached(m_shortcuts, key, [&] {
+        const std::vector<int> columns = leading(index(), parts);
         const bool forward = wanted != Cmp::Le && wanted != Cmp::Lt;
-        const QString where = wanted == Cmp::Eq
-                                  ? columns.join(QStringLiteral(" = ? AND ")) + QStringLiteral(" = ?")
-                                  : comparison(columns, symbol(wanted));
+        const QString where =
+            wanted == Cmp::Eq ? equality(columns) : comparison(columns, symbol(wanted), false);
         return selectAll() + QStringLiteral(" WHERE ") + where + order(index(), forward) +
                QStringLiteral(" LIMIT 1");
     });
@@ -176,59 +211,67 @@ TableBase::Slot &TableBase::seekStatement(Cmp wanted, std::size_t parts)
 
 TableBase::Slot &TableBase::stepStatement(bool forward)
 {
-    return cached(shortcut(Step, m_index, forward), [&] {
+    return cached(m_shortcuts, shortcut(Step, m_index, forward), [&] {
         return selectAll() + QStringLiteral(" WHERE ") +
-               comparison(orderColumns(index()), forward ? ">" : "<") + order(index(), forward) +
+               comparison(index().columns, forward ? ">" : "<", true) + order(index(), forward) +
                QStringLiteral(" LIMIT 1");
     });
 }
 
 TableBase::Slot &TableBase::endStatement(bool forward)
 {
-    return cached(shortcut(End, m_index, forward),
+    return cached(m_shortcuts, shortcut(End, m_index, forward),
                   [&] { return selectAll() + order(index(), forward) + QStringLiteral(" LIMIT 1"); });
+}
+
+QString TableBase::rangeSql(const RangeKey &range) const
+{
+    const auto &[ranged, fromParts, toParts, columns] = range;
+    const Index &ordered = m_schema.indexes[static_cast<std::size_t>(ranged)];
+    QStringList wanted;
+    for (const int column : columns)
+        wanted << columnName(column, false);
+    QStringList bounds;
+    if (fromParts > 0) bounds << comparison(leading(ordered, fromParts), ">=", false);
+    if (toParts > 0) bounds << comparison(leading(ordered, toParts), "<=", false);
+    QString sql = QStringLiteral("SELECT %1 FROM %2").arg(wanted.join(QLatin1Char(',')), m_schema.table);
+    if (!bounds.isEmpty()) sql += QStringLiteral(" WHERE ") + bounds.join(QStringLiteral(" AND "));
+    return sql + order(ordered, true);
 }
 
 TableBase::Slot &TableBase::rangeStatement(int ranged, std::size_t fromParts, std::size_t toParts,
                                            const std::vector<int> &columns)
 {
-    const Index &ordered = m_schema.indexes[static_cast<std::size_t>(ranged)];
-    QStringList wanted;
-    for (const int column : columns)
-        wanted << m_schema.columns[static_cast<std::size_t>(column)].name;
-    QStringList keys;
-    for (const int column : ordered.columns)
-        keys << columnName(column, true);
-    QStringList bounds;
-    if (fromParts > 0) bounds << comparison(keys.first(static_cast<qsizetype>(fromParts)), ">=");
-    if (toParts > 0) bounds << comparison(keys.first(static_cast<qsizetype>(toParts)), "<=");
-    QString sql = QStringLiteral("SELECT %1 FROM %2").arg(wanted.join(QLatin1Char(',')), m_schema.table);
-    if (!bounds.isEmpty()) sql += QStringLiteral(" WHERE ") + bounds.join(QStringLiteral(" AND "));
-    return prepared(sql + order(ordered, true));
+    const RangeKey key{ranged, fromParts, toParts, columns};
+    return cached(m_ranges, key, [&] { return rangeSql(key); });
 }
 
 TableBase::Slot &TableBase::rereadStatement()
 {
-    return cached(shortcut(Reread), [&] { return selectAll() + QStringLiteral(" WHERE ") + identity(); });
+    return cached(m_shortcuts, shortcut(Reread),
+                  [&] { return selectAll() + QStringLiteral(" WHERE ") + identity(); });
 }
 
 TableBase::Slot &TableBase::insertStatement()
 {
-    return cached(shortcut(Insert), [&] {
+    return cached(m_shortcuts, shortcut(Insert), [&] {
         QStringList names;
-        for (const Column &column : m_schema.columns)
-            names << column.name;
+        QStringList values;
+        for (const int column : everyColumn(m_schema)) {
+            names << columnName(column, false);
+            values << placeholder(column);
+        }
         return QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-            .arg(m_schema.table, names.join(QLatin1Char(',')), placeholders(names.size()));
+            .arg(m_schema.table, names.join(QLatin1Char(',')), values.join(QLatin1Char(',')));
     });
 }
 
 TableBase::Slot &TableBase::updateStatement()
 {
-    return cached(shortcut(Update), [&] {
+    return cached(m_shortcuts, shortcut(Update), [&] {
         QStringList terms;
-        for (const Column &column : m_schema.columns)
-            terms << column.name + QStringLiteral(" = ?");
+        for (const int column : everyColumn(m_schema))
+            terms << columnName(column, false) + QStringLiteral(" = ") + placeholder(column);
         return QStringLiteral("UPDATE %1 SET %2 WHERE %3")
             .arg(m_schema.table, terms.join(QLatin1Char(',')), identity());
     });
@@ -236,7 +279,7 @@ TableBase::Slot &TableBase::updateStatement()
 
 TableBase::Slot &TableBase::deleteStatement()
 {
-    return cached(shortcut(Delete),
+    return cached(m_shortcuts, shortcut(Delete),
                   [&] { return QStringLiteral("DELETE FROM %1 WHERE %2").arg(m_schema.table, identity()); });
 }
 

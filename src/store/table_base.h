@@ -1,10 +1,14 @@
 #pragma once
 
+#include "store/engine.h"
 #include "store/schema.h"
+
+#include <QDate>
 
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <tuple>
 #include <variant>
 
 namespace velmora::store
@@ -29,6 +33,7 @@ public:
 private:
     std::variant<std::int64_t, QDate, QString> m_value;
 };
+
 /// A whole key of an index or its first columns.
 using Key = std::vector<KeyValue>;
 
@@ -49,8 +54,9 @@ public:
     [[nodiscard]] EditMode editMode() const { return m_editMode; }
     /// The last operation on the table: tells a row that isn't there from a failure of the engine.
     [[nodiscard]] const Status &status() const { return m_status; }
-    /// Count of rows; 0 on a failure.
+    /// Count of rows; 0 on a failure, which `status` tells.
     [[nodiscard]] int recordCount();
+    /// Whether the table has no row; true on a failure, which `status` tells.
     [[nodiscard]] bool isEmpty();
     /// Whether an update failed and its values still wait in the edit.
     [[nodiscard]] bool updatePending() const { return m_updatePending; }
@@ -58,13 +64,15 @@ public:
     virtual Status update() = 0;
     /// Drops the edit or the new row.
     void cancelUpdate();
-    /// Drops the statements, so that the database can be closed.
-    void release() { m_statements.clear(); }
+    /// Forgets the statements and the current row, so that the database can be closed: the table is again as
+    /// before its first use.
+    virtual void release();
 
 protected:
     using Slot = std::unique_ptr<Statement>;
 
-    /// A row's place: which row it is for the engine. Clustered tables are known by their key instead.
+    // Each of these gives the statement for the table's current index, made at its first use. Its first
+    // column is the row's identity for the engine; clustered tables, known by their key, have 0 there.
     [[nodiscard]] Slot &seekStatement(Cmp comparison, std::size_t parts);
     [[nodiscard]] Slot &stepStatement(bool forward);
     [[nodiscard]] Slot &endStatement(bool forward);
@@ -77,7 +85,7 @@ protected:
 
     [[nodiscard]] const Index &index() const { return m_schema.indexes[static_cast<std::size_t>(m_index)]; }
     [[nodiscard]] const Index &primary() const { return m_schema.indexes.front(); }
-    /// Columns that say which row is meant, in the order in which they are bound.
+    /// Runs a statement that gives no rows.
     [[nodiscard]] Status run(Slot &statement);
 
     Engine &m_engine;
@@ -88,18 +96,28 @@ protected:
     Status m_status;
 
 private:
+    /// What tells the passes over runs of rows apart: index, columns of both bounds, columns read.
+    using RangeKey = std::tuple<int, std::size_t, std::size_t, std::vector<int>>;
+
     [[nodiscard]] Slot &prepared(const QString &sql);
+    [[nodiscard]] QString rangeSql(const RangeKey &range) const;
+    [[nodiscard]] QString placeholder(int column) const;
+    [[nodiscard]] QString comparison(const std::vector<int> &columns, const char *op,
+                                     bool withIdentity) const;
     [[nodiscard]] QString selectAll() const;
     [[nodiscard]] QString columnName(int column, bool sorted) const;
-    [[nodiscard]] QStringList orderColumns(const Index &index) const;
+    [[nodiscard]] bool hasRowid() const { return !m_schema.clustered; }
     [[nodiscard]] QString order(const Index &index, bool forward) const;
+    [[nodiscard]] QString equality(const std::vector<int> &columns) const;
     [[nodiscard]] QString identity() const;
     [[nodiscard]] int scalar(const QString &sql);
 
     std::map<QString, Slot> m_statements;
     std::map<std::int64_t, Slot *> m_shortcuts;
+    std::map<RangeKey, Slot *> m_ranges;
 
-    template <class MakeSql> Slot &cached(std::int64_t shortcut, MakeSql &&makeSql);
+    template <class Shortcuts, class MakeSql>
+    Slot &cached(Shortcuts &shortcuts, const typename Shortcuts::key_type &key, MakeSql &&makeSql);
 };
 
 } // namespace velmora::store

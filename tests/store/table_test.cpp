@@ -124,6 +124,98 @@ TEST_F(TableTest, RangeLeavesTheCurrentRowAndReadsBothEnds)
     EXPECT_EQ(sitper.row().nump, 2);
 }
 
+TEST_F(TableTest, PassWithinAPassOverTheSameColumnsFailsVisibly)
+{
+    auto outer = sitper.range("sitper01", {1}, {1});
+    ASSERT_TRUE(outer.next());
+    auto inner = sitper.range("sitper01", {2}, {2});
+    EXPECT_FALSE(inner.next());
+    EXPECT_FALSE(inner.status().ok());
+}
+
+/// A table whose rows aren't told apart by their key.
+class SameKeyTest : public testing::Test
+{
+protected:
+    Workstation station;
+    store::Table<AbsenceSaisie> &absences = station.session.base.absences;
+
+    void SetUp() override
+    {
+        for (const char *code : {"A", "B", "C", "D"})
+            station.addAbsence(1, QString::fromLatin1(code), QDate(2026, 6, 3), QDate(2026, 6, 3));
+    }
+    QString codes(bool forward)
+    {
+        QString seen;
+        for (bool found = forward ? absences.first() : absences.last(); found;
+             found = forward ? absences.next() : absences.previous())
+            seen += absences.row().codabs;
+        return seen;
+    }
+};
+
+TEST_F(SameKeyTest, WalksSeeEveryRowOfOneKeyBothWays)
+{
+    EXPECT_EQ(codes(true), QStringLiteral("ABCD"));
+    EXPECT_EQ(codes(false), QStringLiteral("DCBA"));
+}
+
+TEST_F(SameKeyTest, DeletionStepsOnToTheNeighbour)
+{
+    ASSERT_TRUE(absences.first() && absences.next());
+    ASSERT_TRUE(absences.erase().ok());
+    EXPECT_FALSE(absences.hasRow());
+    EXPECT_EQ(absences.erase().code(), store::Status::Code::NoRow);
+    ASSERT_TRUE(absences.next());
+    EXPECT_EQ(absences.row().codabs, QStringLiteral("C"));
+    EXPECT_EQ(codes(true), QStringLiteral("ACD"));
+}
+
+TEST_F(SameKeyTest, BookmarkFindsItsRowAmongEqualsUntilItIsGone)
+{
+    ASSERT_TRUE(absences.first() && absences.next());
+    const auto mark = absences.bookmark();
+    ASSERT_TRUE(absences.last());
+    ASSERT_TRUE(absences.goTo(mark));
+    EXPECT_EQ(absences.row().codabs, QStringLiteral("B"));
+    ASSERT_TRUE(absences.erase().ok());
+    ASSERT_TRUE(absences.first());
+    EXPECT_FALSE(absences.goTo(mark));
+    EXPECT_TRUE(absences.status().ok());
+    EXPECT_EQ(absences.row().codabs, QStringLiteral("A"));
+}
+
+TEST_F(SameKeyTest, NewRowLeavesTheCurrentOneUntilItIsGoneTo)
+{
+    ASSERT_TRUE(absences.first());
+    station.addAbsence(2, QStringLiteral("E"), QDate(2026, 6, 3), QDate(2026, 6, 3));
+    EXPECT_EQ(absences.row().codabs, QStringLiteral("A"));
+    ASSERT_TRUE(absences.goTo(absences.lastModified()));
+    EXPECT_EQ(absences.row().nump, 2);
+}
+
+TEST(FoldersTest, FoldersOfALineComeInFrenchOrder)
+{
+    Workstation station;
+    auto &groupe = station.session.base.groupe;
+    for (const char *nom : {"zone", "Été", "atelier", "étage"}) {
+        for (const int nump : {1, 2}) {
+            ASSERT_TRUE(groupe.addNew().ok());
+            groupe.values() = {QString::fromUtf8(nom), nump, true};
+            ASSERT_TRUE(groupe.update().ok());
+        }
+    }
+    groupe.setIndex("groupeng");
+    QStringList order;
+    for (bool found = groupe.seek(Cmp::Ge, {2}); found && groupe.row().nump == 2; found = groupe.next())
+        order << groupe.row().groupe;
+    EXPECT_EQ(order.join(u' '), QStringLiteral("atelier étage Été zone"));
+    groupe.setIndex("groupegn");
+    EXPECT_TRUE(groupe.seek(Cmp::Eq, {QStringLiteral("Été"), 2}));
+    EXPECT_FALSE(groupe.seek(Cmp::Eq, {QStringLiteral("été"), 2}));
+}
+
 TEST(NamesTest, SortAsAFrenchReaderExpectsAndStayWritableBySqlTools)
 {
     Workstation station;

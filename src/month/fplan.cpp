@@ -1,0 +1,266 @@
+#include "month/fplan.h"
+
+#include "entry/partielm.h"
+#include "entry/storing.h"
+#include "month/cursor.h"
+#include "month/loading.h"
+#include "month/refresh.h"
+#include "month/rows.h"
+#include "month/twips.h"
+#include "session/help.h"
+#include "session/opening.h"
+
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QProgressBar>
+
+#include <chrono>
+
+namespace velmora
+{
+
+namespace
+{
+
+using namespace std::chrono_literals;
+
+constexpr auto apresAffichage = 5ms;
+constexpr auto apresEvenement = 1ms;
+// Sizes are taken from these texts.
+constexpr const char *texteLargeur = "[10h40-20h40]";
+constexpr const char *texteHauteur = "3W";
+constexpr int margeLargeur = 300;
+constexpr int margeHauteur = 100;
+// The progress bar's maximum is the count of lines and this.
+constexpr int margeProgres = 5;
+constexpr int lignesEntreRepaints = 32;
+
+template <class Widget> Widget *nomme(Widget *widget, const char *nom)
+{
+    widget->setObjectName(QLatin1String(nom));
+    return widget;
+}
+
+} // namespace
+
+Fplan::Fplan(Session &session, QWidget *parent)
+    : MonthView(parent), m_session(session), m_planning(session, session.moisvue, session.anvue),
+      m_menus(this), m_label1(nomme(new QLabel(QStringLiteral("Planning"), this), "Label1")),
+      m_dossier(nomme(new QLabel(this), "dossier")), m_date(nomme(new QLabel(this), "date")),
+      m_statut(nomme(new QLabel(this), "statut")), m_pgb(nomme(new QProgressBar(this), "Pgb")),
+      m_mg(new VueGrille(m_planning, this))
+{
+    setObjectName(QStringLiteral("Fplan"));
+    setWindowTitle(QStringLiteral("Planning mois"));
+    m_session.moisouvert = true;
+    m_session.pagecourante = QStringLiteral("sommaire.htm");
+    construit();
+    relie();
+    m_timer1.start(apresAffichage);
+}
+
+Fplan::~Fplan()
+{
+    ferme();
+}
+
+void Fplan::construit()
+{
+    mesure();
+    construitEntete();
+    auto *titres = new QHBoxLayout;
+    titres->addWidget(m_label1);
+    titres->addStretch();
+    titres->addWidget(m_pgb);
+    titres->addWidget(m_dossier);
+    auto *etat = new QHBoxLayout;
+    etat->addWidget(m_date);
+    etat->addWidget(m_statut, 1);
+    auto *colonne = new QVBoxLayout(this);
+    colonne->setContentsMargins(6, 4, 6, 4);
+    colonne->addLayout(titres);
+    colonne->addWidget(m_mg, 1);
+    colonne->addLayout(etat);
+}
+
+void Fplan::construitEntete()
+{
+    const Periode &periode = m_planning.periode;
+    m_label1->setText(m_label1->text() + QStringLiteral(" du ") + Foncgen::dtoc(periode.debgrille) +
+                      QStringLiteral(" au ") + Foncgen::dtoc(periode.fingrille));
+    QFont gras = m_label1->font();
+    gras.setBold(true);
+    m_label1->setFont(gras);
+    if (!m_session.dossiervue.isEmpty())
+        m_dossier->setText(QStringLiteral("Dossier : ") + m_session.dossiervue);
+    m_statut->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_pgb->setTextVisible(false);
+    m_pgb->setMaximumWidth(pixels(4000, *this));
+    m_mg->setVisible(compteLignes(m_session, periode) > 0);
+}
+
+void Fplan::mesure()
+{
+    const QFontMetricsF metrique(m_mg->font(), m_mg);
+    m_planning.mesures.largcol =
+        twips(metrique.horizontalAdvance(QLatin1String(texteLargeur)), *this) + margeLargeur;
+    m_planning.mesures.hautligne =
+        2 * twips(metrique.boundingRect(QLatin1String(texteHauteur)).height(), *this) + margeHauteur;
+}
+
+void Fplan::relie()
+{
+    for (QTimer *timer : {&m_timer1, &m_timer2, &m_timer3})
+        timer->setSingleShot(true);
+    connect(&m_timer1, &QTimer::timeout, this, &Fplan::charge);
+    connect(&m_timer2, &QTimer::timeout, this, &Fplan::rafraichit);
+    connect(&m_timer3, &QTimer::timeout, this, &Fplan::execute);
+    connect(m_mg, &VueGrille::caseAtteinte, this, [this] {
+        entreCellule(m_planning);
+        m_mg->suitCurseur();
+        m_timer2.start(apresEvenement);
+    });
+    connect(m_mg, &VueGrille::doubleClic, this, &Fplan::saisitHeures);
+    connect(m_mg, &VueGrille::touche, this, &Fplan::touchePressee);
+    relieMenus();
+}
+
+void Fplan::relieMenus()
+{
+    m_menus.lie(QStringLiteral("mnuhm"), this, [this] { choisitTotaux(false); });
+    m_menus.lie(QStringLiteral("mnucent"), this, [this] { choisitTotaux(true); });
+    m_menus.lie(QStringLiteral("mnusais"), this, &Fplan::saisitHeures);
+    m_menus.lie(QStringLiteral("mnuaid"), this,
+                [this] { ouvreaide(m_session, QStringLiteral("sommaire.htm")); });
+    m_menus.lie(QStringLiteral("mnuferm"), this, [this] { close(); });
+}
+
+QList<QAction *> Fplan::menuBarActions() const
+{
+    return m_menus.barre();
+}
+
+void Fplan::charge()
+{
+    m_pgb->setRange(0, compteLignes(m_session, m_planning.periode) + margeProgres);
+    m_pgb->setValue(1);
+    const Chargement chargement{.progres = [this](int valeur) {
+        m_pgb->setValue(valeur);
+        if (valeur % lignesEntreRepaints == 0) m_pgb->repaint();
+    }};
+    m_mg->hide();
+    if (!chargi(m_planning, chargement)) {
+        close();
+        return;
+    }
+    m_pgb->hide();
+    m_mg->montreGrille();
+    m_mg->show();
+    m_planning.colonneGauche =
+        ajusteGauche(m_planning, [this](int gauche) { return m_mg->curseurVisible(gauche); });
+    m_mg->montreGauche();
+    montreCommandes();
+    emit ready();
+    m_timer2.start(apresEvenement);
+}
+
+void Fplan::rafraichit()
+{
+    cycle(m_planning);
+    m_date->setText(QStringLiteral("le : ") + Foncgen::dtoc(m_planning.dateStatut));
+    m_statut->setText(m_planning.texteStatut);
+    montreCommandes();
+    if (m_mg->isVisible() && m_mg->isEnabled()) m_mg->setFocus();
+}
+
+void Fplan::montreCommandes()
+{
+    m_menus.montre(m_planning.commandes);
+    emit commandsChanged(ToolbarState::onRefresh(m_planning.commandes));
+}
+
+void Fplan::command(const QString &cle)
+{
+    m_cle = cle;
+    m_timer3.start(apresAffichage);
+}
+
+void Fplan::execute()
+{
+    static const QHash<QString, QString> entrees{{QStringLiteral("absence"), QStringLiteral("mnuabs")},
+                                                 {QStringLiteral("Imprimer"), QStringLiteral("mnuimpi")},
+                                                 {QStringLiteral("zoom"), QStringLiteral("mnuzoom")},
+                                                 {QStringLiteral("Couper"), QStringLiteral("mnucoupe")},
+                                                 {QStringLiteral("Copier"), QStringLiteral("mnucopier")},
+                                                 {QStringLiteral("Coller"), QStringLiteral("mnucoller")},
+                                                 {QStringLiteral("Undo"), QStringLiteral("mnuundo")},
+                                                 {QStringLiteral("Do"), QStringLiteral("mnudo")}};
+    if (QAction *action = m_menus.entree(entrees.value(m_cle))) action->trigger();
+}
+
+void Fplan::saisitHeures()
+{
+    m_timer2.stop();
+    const Place place = m_planning.curseur;
+    if (!m_planning.grille.estLigne(place.ligne)) return;
+    const int nump = m_planning.grille.numligne(place.ligne);
+    m_session.base.ligmois.setIndex("ligmois01");
+    const QString &nom = m_planning.grille.lit(place.ligne, Grille::colonneNom).texte;
+    if (m_session.base.ligmois.seek(store::Cmp::Eq, {nump}) &&
+        prepareSaisie(m_session, nom, nump, m_planning.date(place.colonne))) {
+        m_planning.suivi = false;
+        Partielm dialogue(
+            m_session,
+            [this](const JourneeSaisie &journee, const JourSit &jour) { ecrihor(m_session, journee, jour); },
+            this);
+        dialogue.exec();
+        majligne(m_planning, nump, place.ligne);
+    }
+    m_timer2.start(apresEvenement);
+}
+
+void Fplan::touchePressee(const QString &texte)
+{
+    m_timer2.stop();
+    if (texte == QLatin1String("*"))
+        saisitHeures();
+    else
+        m_timer2.start(apresEvenement);
+}
+
+void Fplan::choisitTotaux(bool centiemes)
+{
+    choisitCentiemes(m_planning, centiemes);
+    m_timer2.start(apresEvenement);
+}
+
+bool Fplan::stretchColumns(int twips)
+{
+    return etireColonnes(m_planning.grille, twips);
+}
+
+void Fplan::stretchRows(int twips)
+{
+    etireLignes(m_planning.grille, twips);
+}
+
+void Fplan::closeEvent(QCloseEvent *event)
+{
+    event->accept();
+    ferme();
+}
+
+void Fplan::ferme()
+{
+    if (std::exchange(m_ferme, true)) return;
+    m_timer1.stop();
+    m_timer2.stop();
+    m_timer3.stop();
+    m_session.moisouvert = false;
+    m_session.pagecourante = QStringLiteral("accueil.htm");
+    videsitco(m_session);
+    emit closed();
+}
+
+} // namespace velmora

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "month/grid_view.h"
+#include "month/month_menus.h"
+#include "month/month_view.h"
+
+#include <QTimer>
+
+class QLabel;
+class QProgressBar;
+
+namespace velmora
+{
+
+/// "Planning mois": the month's grid with its title, its status line and its menus. It passes events to the
+/// month's procedures and shows what they leave.
+class Fplan : public MonthView
+{
+    Q_OBJECT
+
+public:
+    /// Opens the month that the session holds in `moisvue` and `anvue`, with its folder and cell contents.
+    /// The grid is built a moment after the form shows.
+    explicit Fplan(Session &session, QWidget *parent = nullptr);
+    ~Fplan() override;
+
+    [[nodiscard]] QList<QAction *> menuBarActions() const override;
+    void command(const QString &cle) override;
+    [[nodiscard]] bool stretchColumns(int twips) override;
+    void stretchRows(int twips) override;
+
+    [[nodiscard]] Planning &planning() { return m_planning; }
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void construit();
+    void construitEntete();
+    void relie();
+    void relieMenus();
+    void mesure();
+
+    void charge();
+    void ferme();
+    void rafraichit();
+    void montreCommandes();
+    void execute();
+
+    void saisitHeures();
+    void choisitTotaux(bool centiemes);
+    void touchePressee(const QString &texte);
+
+    Session &m_session;
+    Planning m_planning;
+    MenusMois m_menus;
+    QLabel *m_label1;    // "Planning", then its dates
+    QLabel *m_dossier;   // the folder shown
+    QLabel *m_date;      // "le :"
+    QLabel *m_statut;    // what the current cell holds
+    QProgressBar *m_pgb; // the load
+    VueGrille *m_mg;
+    QTimer m_timer1{this}; // the load that follows the display
+    QTimer m_timer2{this}; // the refresh cycle
+    QTimer m_timer3{this}; // a command of the toolbar
+    QString m_cle;         // key of that command
+    bool m_ferme = false;
+};
+
+} // namespace velmora

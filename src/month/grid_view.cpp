@@ -1,0 +1,149 @@
+#include "month/grid_view.h"
+
+#include "month/cursor.h"
+#include "month/grid_headers.h"
+#include "month/twips.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
+namespace velmora
+{
+
+void PeintreCase::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    const auto *modele = static_cast<const ModeleGrille *>(index.model());
+    peintCase(*painter, option.rect, modele->caseDe(index), Qt::AlignCenter);
+}
+
+VueGrille::VueGrille(Planning &planning, QWidget *parent)
+    : QTableView(parent), m_planning(planning), m_modele(planning), m_jours(new EnteteJours(m_modele, this)),
+      m_lignes(new EnteteLignes(m_modele, this)), m_coin(new CoinGrille(m_modele, *m_jours, this))
+{
+    setObjectName(QStringLiteral("mg"));
+    setAccessibleName(QStringLiteral("Planning du mois"));
+    setHorizontalHeader(m_jours);
+    setVerticalHeader(m_lignes);
+    setModel(&m_modele);
+    setItemDelegate(new PeintreCase(this));
+    setSelectionMode(QAbstractItemView::NoSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setShowGrid(false);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    setTabKeyNavigation(true);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    connect(&m_modele, &ModeleGrille::taillesChangees, this, &VueGrille::appliqueTailles);
+}
+
+void VueGrille::appliqueTailles()
+{
+    const Grille &grille = m_planning.grille;
+    for (int colonne = Grille::colonnesFixes; colonne < grille.colonnes(); ++colonne)
+        m_jours->resizeSection(ModeleGrille::colonneVue(colonne), pixels(grille.largeur(colonne), *this));
+    // Only the rows that differ from the usual height are set one by one.
+    if (grille.derniereLigne() > Grille::lignesFixes)
+        m_lignes->setDefaultSectionSize(pixels(grille.hauteur(Grille::lignesFixes), *this));
+    for (int ligne = Grille::lignesFixes; ligne < grille.lignes(); ++ligne) {
+        const int section = ModeleGrille::ligneVue(ligne);
+        const int hauteur = pixels(grille.hauteur(ligne), *this);
+        if (m_lignes->sectionSize(section) != hauteur) m_lignes->resizeSection(section, hauteur);
+    }
+    m_jours->updateGeometry();
+    updateGeometries();
+}
+
+void VueGrille::montreGrille()
+{
+    m_modele.recharge();
+    appliqueTailles();
+    suitCurseur();
+    montreGauche();
+}
+
+void VueGrille::montreGauche()
+{
+    horizontalScrollBar()->setValue(ModeleGrille::colonneVue(m_planning.colonneGauche));
+}
+
+bool VueGrille::curseurVisible(int gauche) const
+{
+    const int debut = m_jours->sectionPosition(ModeleGrille::colonneVue(gauche));
+    const int section = ModeleGrille::colonneVue(m_planning.curseur.colonne);
+    const int droite = m_jours->sectionPosition(section) + m_jours->sectionSize(section);
+    return m_jours->sectionPosition(section) >= debut && droite <= debut + viewport()->width();
+}
+
+QModelIndex VueGrille::indexCurseur() const
+{
+    return m_modele.index(ModeleGrille::ligneVue(m_planning.curseur.ligne),
+                          ModeleGrille::colonneVue(m_planning.curseur.colonne));
+}
+
+void VueGrille::suitCurseur()
+{
+    const QScopedValueRollback place(m_place, true);
+    setCurrentIndex(indexCurseur());
+}
+
+void VueGrille::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QTableView::currentChanged(current, previous);
+    if (m_place || !m_planning.suivi || !current.isValid()) return;
+    m_planning.curseur = {ModeleGrille::ligneGrille(current.row()),
+                          ModeleGrille::colonneGrille(current.column())};
+    emit caseAtteinte();
+}
+
+QModelIndex VueGrille::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    const bool ligneEntiere = modifiers & Qt::ControlModifier;
+    Place but = m_planning.curseur;
+    if (action == MoveHome) {
+        but.colonne = premierJourVisible(m_planning);
+        if (ligneEntiere) but.ligne = Grille::lignesFixes;
+    } else if (action == MoveEnd) {
+        but.colonne = dernierJourVisible(m_planning);
+        if (ligneEntiere) but.ligne = m_planning.grille.derniereLigne() - 1;
+    } else {
+        return QTableView::moveCursor(action, modifiers);
+    }
+    return m_modele.index(ModeleGrille::ligneVue(but.ligne), ModeleGrille::colonneVue(but.colonne));
+}
+
+void VueGrille::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    QTableView::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton && indexAt(event->pos()).isValid()) emit doubleClic();
+}
+
+void VueGrille::keyPressEvent(QKeyEvent *event)
+{
+    const QString texte = event->text();
+    const bool caractere = !texte.isEmpty() && texte.front().isPrint() &&
+                           !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+    if (caractere) {
+        emit touche(texte);
+        return;
+    }
+    QTableView::keyPressEvent(event);
+}
+
+void VueGrille::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    updateGeometries();
+}
+
+void VueGrille::updateGeometries()
+{
+    QTableView::updateGeometries();
+    if (!m_coin) return;
+    m_coin->setGeometry(m_lignes->x(), m_jours->y(), m_lignes->width(), m_jours->height());
+    m_coin->raise();
+}
+
+} // namespace velmora

@@ -1,0 +1,133 @@
+#include "month/month_menus.h"
+
+#include <QAction>
+#include <QMenu>
+
+namespace velmora
+{
+
+/// An entry of a menu: no caption is a separator, `sous` a submenu.
+struct EntreeMenu {
+    const char *nom;
+    QString texte;
+    QList<EntreeMenu> sous{};
+};
+
+namespace
+{
+
+QList<EntreeMenu> affichage()
+{
+    return {{"mnuhm", QStringLiteral("Totaux en heures minutes")},
+            {"mnucent", QStringLiteral("Totaux en heures et centièmes d'h.")},
+            {"mnuaff1", {}},
+            {"mnuaffnorm", QStringLiteral("Affichage Normal (sans zoom)")},
+            {"mnuzoom", QStringLiteral("Avec Zoom Journée")}};
+}
+
+QList<EntreeMenu> lignes()
+{
+    return {{"mnunewl", QStringLiteral("Nouvelle ligne")},
+            {"mnuligb1", {}},
+            {"mnufermlig", QStringLiteral("Fermer une ligne")},
+            {"mnuligb4", {}},
+            {"mnureouv", QStringLiteral("Réouvrir une ligne")},
+            {"mnuligb3", {}},
+            {"mnucont", QStringLiteral("Définir / Redéfinir les contrôles")},
+            {"mnuligb5", {}},
+            {"mnurenlig", QStringLiteral("Renommer une ligne")},
+            {"mnuligb2", {}},
+            {"mnusuplig", QStringLiteral("Supprimer une ligne")}};
+}
+
+QList<EntreeMenu> fonctions()
+{
+    return {{"mnucoupe", QStringLiteral("Couper")},
+            {"mnucopier", QStringLiteral("Copier")},
+            {"mnucoller", QStringLiteral("Coller")},
+            {"mnuf1", {}},
+            {"mnuundo", QStringLiteral("Annuler (fonction précédente)")},
+            {"mnudo", QStringLiteral("Refaire (fonction annulée)")},
+            {"mnuf2", {}},
+            {"mnusais", QStringLiteral("Saisie d'heures")},
+            {"mnuabs", QStringLiteral("Congé / Absence")},
+            {"mnuf3", {}},
+            {"mnusup", QStringLiteral("Supprimer (abs. /  heures saisies)   Suppr./")}};
+}
+
+QList<EntreeMenu> impressions()
+{
+    return {{"mnuhor", QStringLiteral("Horaires Pratiqués")},
+            {"mnuihp", {}},
+            {"mnupi",
+             QStringLiteral("Plannings lignes"),
+             {{"mnupie", QStringLiteral("Planning de l'ensemble")},
+              {"mnupib", {}},
+              {"mnuimpi", QStringLiteral("Planning de ")}}},
+            {"mnuib", {}},
+            {"mnuimph", QStringLiteral("Planning Semaine")},
+            {"mnuexb1", {}},
+            {"mnuex", QStringLiteral("Export (excel)")}};
+}
+
+} // namespace
+
+MenusMois::MenusMois(QWidget *parent) : QObject(parent), m_parent(parent)
+{
+    ajouteMenu(QStringLiteral("Affichage"), affichage());
+    ajouteMenu(QStringLiteral("   Lignes de planning  "), lignes());
+    ajouteMenu(QStringLiteral("   Fonctions   "), fonctions());
+    ajouteMenu(QStringLiteral("   Impressions  /  Export..."), impressions());
+    for (const EntreeMenu &entree :
+         {EntreeMenu{"mnuaid", QStringLiteral("?")}, EntreeMenu{"mnuferm", QStringLiteral("   Fermer")}}) {
+        ajouteEntree(nullptr, entree);
+        m_barre << this->entree(QLatin1String(entree.nom));
+    }
+}
+
+void MenusMois::ajouteMenu(const QString &titreMenu, const QList<EntreeMenu> &entrees)
+{
+    auto *menu = new QMenu(titreMenu, m_parent);
+    for (const EntreeMenu &entree : entrees)
+        ajouteEntree(menu, entree);
+    m_barre << menu->menuAction();
+}
+
+void MenusMois::ajouteEntree(QMenu *menu, const EntreeMenu &entree)
+{
+    const QString nom = QLatin1String(entree.nom);
+    if (!entree.sous.isEmpty()) {
+        QMenu *sous = menu->addMenu(entree.texte);
+        sous->menuAction()->setObjectName(nom);
+        for (const EntreeMenu &une : entree.sous)
+            ajouteEntree(sous, une);
+        return;
+    }
+    auto *action = new QAction(entree.texte, m_parent);
+    action->setObjectName(nom);
+    action->setSeparator(entree.texte.isEmpty());
+    action->setEnabled(false);
+    if (menu) menu->addAction(action);
+    m_entrees.insert(nom, action);
+}
+
+void MenusMois::permet(const QString &nom, bool permise)
+{
+    entree(nom)->setEnabled(permise && m_liees.contains(nom));
+}
+
+void MenusMois::montre(const EtatCommandes &etat)
+{
+    permet(QStringLiteral("mnucoupe"), etat.couper);
+    permet(QStringLiteral("mnucopier"), etat.copier);
+    permet(QStringLiteral("mnucoller"), etat.coller);
+    permet(QStringLiteral("mnuundo"), etat.annuler);
+    permet(QStringLiteral("mnudo"), etat.refaire);
+    permet(QStringLiteral("mnuabs"), etat.absence);
+    permet(QStringLiteral("mnufermlig"), etat.fermerLigne);
+    permet(QStringLiteral("mnureouv"), etat.reouvrirLigne);
+    permet(QStringLiteral("mnurenlig"), etat.renommerLigne);
+    entree(QStringLiteral("mnuimpi"))->setText(QStringLiteral("Planning de ") + etat.ligneCourante);
+}
+
+} // namespace velmora

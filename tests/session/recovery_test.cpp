@@ -1,0 +1,217 @@
+#include "session/batch.h"
+#include "session/opening.h"
+
+#include "journal/recording.h"
+#include "support/data_folder.h"
+#include "support/other_process.h"
+#include "support/raw_sqlite.h"
+#include "support/scripted_host.h"
+
+#include <QDir>
+
+namespace velmora::test
+{
+namespace
+{
+
+constexpr int pageSize = 4096;
+constexpr int operations = 12;
+constexpr int images = 60;
+
+/// A folder whose journal is filled with operations and their images, closed.
+class RecoveryTest : public testing::Test
+{
+protected:
+    DataFolder folder;
+    ScriptedHost host;
+
+    void SetUp() override
+    {
+        Session session(host);
+        folder.give(session);
+        ASSERT_TRUE(ouvrejournal(session) && ouvrebase(session));
+        enLot(session, [&session] { return fill(session); });
+    }
+
+    static store::Status fill(Session &session)
+    {
+        for (int operation = 1; operation <= operations; ++operation) {
+            ecritop(session, QStringLiteral("S"), QStringLiteral("nouvel horaire: %1").arg(operation));
+            for (int day = 0; day < images; ++day) {
+                if (!ajoutsit(session).ok()) return session.base.sitper.status();
+                session.base.sitper.values().nump = operation;
+                session.base.sitper.values().dat = QDate(2026, 1, 1).addDays(day);
+                session.base.sitper.values().horaire = QStringLiteral("équipe du matin");
+                const store::Status status = majsit(session);
+                if (!status.ok()) return status;
+            }
+        }
+        return {};
+    }
+
+    void overwritePage(int page, char filling = '\xa7')
+    {
+        QFile file(folder.journalFile());
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(file.seek((page - 1) * pageSize));
+        file.write(QByteArray(pageSize, filling));
+    }
+    QStringList journal(const QString &sql) { return RawSqlite(folder.journalFile()).rows(sql); }
+    int pageOf(const QString &table)
+    {
+        return journal(QStringLiteral("SELECT rootpage FROM sqlite_master WHERE name = '%1'").arg(table))
+            .value(0)
+            .toInt();
+    }
+    bool start(Session &session)
+    {
+        folder.give(session);
+        return ouvrejournal(session) && ouvrebase(session);
+    }
+
+    const QString imagesSql = QStringLiteral("SELECT * FROM sitlog ORDER BY numop, nivop");
+    const QString ringSql = QStringLiteral("SELECT * FROM logop ORDER BY numop");
+};
+
+TEST_F(RecoveryTest, PagesLostInTheMiddleCostOnlyTheirOwnImages)
+{
+    const QStringList ring = journal(ringSql);
+    const QStringList before = journal(imagesSql);
+    ASSERT_EQ(before.size(), operations * images);
+    const int pages = journal(QStringLiteral("PRAGMA page_count")).value(0).toInt();
+    ASSERT_GT(pages, 20);
+    for (int page = pages / 2; page < pages / 2 + 3; ++page)
+        overwritePage(page);
+    {
+        Session session(host);
+        ASSERT_TRUE(start(session));
+        EXPECT_TRUE(session.peutannul);
+        EXPECT_EQ(ecritop(session, QStringLiteral("S"), QStringLiteral("après")), operations + 1);
+    }
+    EXPECT_EQ(journal(QStringLiteral("PRAGMA integrity_check")), QStringList{QStringLiteral("ok")});
+    const QStringList after = journal(imagesSql);
+    EXPECT_GT(after.size(), before.size() / 2);
+    EXPECT_LT(after.size(), before.size());
+    for (const QString &image : after)
+        EXPECT_TRUE(before.contains(image)) << image.toStdString();
+    EXPECT_EQ(ring.size(), journal(ringSql).size());
+    EXPECT_EQ(journal(QStringLiteral("SELECT chemin FROM chemin")), QStringList{folder.path()});
+    EXPECT_FALSE(QFile::exists(folder.path() + store::fichierReparation));
+}
+
+TEST_F(RecoveryTest, LostRingStartsAnewAndTheTieStands)
+{
+    overwritePage(pageOf(QStringLiteral("logop")));
+    Session session(host);
+    ASSERT_TRUE(start(session));
+    EXPECT_EQ(session.cheminbase, folder.path());
+    EXPECT_EQ(session.journal.logop.recordCount(), 31);
+    EXPECT_FALSE(session.peutannul);
+    EXPECT_EQ(session.journal.sitlog.recordCount(), operations * images);
+    // The slot's images of the time before go with its first use.
+    EXPECT_EQ(ecritop(session, QStringLiteral("S"), QStringLiteral("après")), 1);
+    EXPECT_EQ(session.journal.sitlog.recordCount(), (operations - 1) * images);
+}
+
+TEST_F(RecoveryTest, FileCutShortGivesBackWhatItStillHolds)
+{
+    QFile::resize(folder.journalFile(), QFileInfo(folder.journalFile()).size() / pageSize / 2 * pageSize);
+    Session session(host);
+    ASSERT_TRUE(start(session));
+    EXPECT_EQ(session.journal.logop.recordCount(), 31);
+    EXPECT_GT(session.journal.sitlog.recordCount(), images);
+    EXPECT_LT(session.journal.sitlog.recordCount(), operations * images);
+}
+
+TEST_F(RecoveryTest, MissingTableComesBackEmpty)
+{
+    RawSqlite(folder.journalFile()).run(QStringLiteral("DROP TABLE sitlog"));
+    const QStringList ring = journal(ringSql);
+    {
+        Session session(host);
+        ASSERT_TRUE(start(session));
+        EXPECT_TRUE(session.journal.sitlog.isEmpty());
+    }
+    EXPECT_EQ(journal(ringSql), ring);
+}
+
+TEST_F(RecoveryTest, RepairWorksInTheSecondFolderAndReopensTheFirst)
+{
+    const DataFolder shared;
+    overwritePage(pageOf(QStringLiteral("logop")));
+    const QByteArray damaged = digest(folder.journalFile());
+    Session session(host);
+    folder.give(session, shared.path());
+    host.expectMessage(journalInouvrable(folder.path()));
+    EXPECT_FALSE(ouvrejournal(session));
+    EXPECT_EQ(digest(folder.journalFile()), damaged);
+}
+
+TEST_F(RecoveryTest, RepairedJournalOfAMissingBaseSaysOnlyThat)
+{
+    overwritePage(pageOf(QStringLiteral("logop")));
+    QFile::remove(folder.mainFile());
+    Session session(host);
+    host.expectMessage(sansBase(folder.path()));
+    EXPECT_FALSE(start(session));
+}
+
+TEST_F(RecoveryTest, FileThatIsNoJournalIsNamedAndLeftAsItIs)
+{
+    QFile whole(folder.journalFile());
+    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+    const QByteArray header = whole.read(50);
+    whole.close();
+    const QByteArray contents[] = {{}, "du texte, pas une base\n", QByteArray(3 * pageSize, '\x5a'), header};
+    for (const QByteArray &content : contents) {
+        replaceContent(folder.journalFile(), content);
+        const QByteArray before = digest(folder.journalFile());
+        Session session(host);
+        host.expectMessage(journalInouvrable(folder.path()));
+        EXPECT_FALSE(start(session));
+        EXPECT_EQ(digest(folder.journalFile()), before) << content.size();
+    }
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 2);
+}
+
+TEST_F(RecoveryTest, AnotherProgramsDatabaseIsLeftAsItIs)
+{
+    QFile::remove(folder.journalFile());
+    RawSqlite(folder.journalFile()).run(QStringLiteral("CREATE TABLE recettes (nom TEXT)"));
+    const QByteArray before = digest(folder.journalFile());
+    Session session(host);
+    host.expectMessage(journalInouvrable(folder.path()));
+    EXPECT_FALSE(start(session));
+    EXPECT_EQ(digest(folder.journalFile()), before);
+}
+
+TEST_F(RecoveryTest, DirectoryInTheJournalsPlaceIsRefused)
+{
+    QFile::remove(folder.journalFile());
+    ASSERT_TRUE(QDir().mkdir(folder.journalFile()));
+    Session session(host);
+    host.expectMessage(journalInouvrable(folder.path()));
+    EXPECT_FALSE(start(session));
+}
+
+TEST_F(RecoveryTest, ReadOnlyJournalIsNotReplacedByAWritableOne)
+{
+    const QByteArray before = digest(folder.journalFile());
+    QFile::setPermissions(folder.path(), QFile::Permissions(0x7777));
+    QFile::setPermissions(folder.mainFile(), QFile::Permissions(0x6666));
+    QFile::setPermissions(folder.journalFile(), QFile::Permissions(0x4444));
+    // Permission bits don't bind the superuser, so another user tries.
+    OtherProcess other([this] {
+        constexpr uid_t nobody = 65534;
+        if (geteuid() == 0 && setuid(nobody) != 0) return 3;
+        ScriptedHost otherHost;
+        Session session(otherHost);
+        otherHost.expectMessage(journalInouvrable(folder.path()));
+        return start(session) ? 1 : static_cast<int>(otherHost.titles.size()) + 1;
+    });
+    EXPECT_EQ(other.run(), 2);
+    EXPECT_EQ(digest(folder.journalFile()), before);
+}
+
+} // namespace
+} // namespace velmora::test
