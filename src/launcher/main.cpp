@@ -14,6 +14,9 @@ namespace
 
 using namespace velmora;
 
+// What the engine says of a failure is for whoever asks for it with QT_LOGGING_RULES.
+constexpr const char *reglesJournal = "velmora.*=false";
+
 /// Texts are UTF-8, also on a machine whose locale says otherwise.
 void assureUtf8()
 {
@@ -51,6 +54,9 @@ int fenetre(const cli::LigneCommande &ligne, int argc, char **argv)
 int dessin(const cli::LigneCommande &ligne, int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The off-screen platform says what it lacks; nobody here misses it.
+    QLoggingCategory::setFilterRules(QLatin1String(reglesJournal) +
+                                     QStringLiteral("\ndefault.warning=false"));
     const QApplication application(argc, argv);
     return cli::execute(ligne, peintMois);
 }
@@ -67,8 +73,7 @@ int texte(const cli::LigneCommande &ligne, int argc, char **argv)
 int main(int argc, char **argv)
 {
     assureUtf8();
-    // What the engine says of a failure is for whoever asks for it with QT_LOGGING_RULES.
-    QLoggingCategory::setFilterRules(QStringLiteral("velmora.*=false"));
+    QLoggingCategory::setFilterRules(QLatin1String(reglesJournal));
     const cli::LigneCommande ligne = cli::analyse(motsDe(argc, argv));
     if (ligne.demandeFenetre()) return fenetre(ligne, argc, argv);
     return ligne.dessine() ? dessin(ligne, argc, argv) : texte(ligne, argc, argv);

@@ -34,12 +34,16 @@ bool attendPret(MonthView &mois)
 
 bool peintMois(Session &session, const QString &fichier)
 {
-    const std::unique_ptr<Mdivel> fenetre = fenetrePrincipale(session);
-    fenetre->resize(ecran);
-    fenetre->show();
-    fenetre->ouvreMois();
-    auto *mois = fenetre->findChild<MonthView *>();
-    return mois && attendPret(*mois) && fenetre->grab().save(fichier, "PNG");
+    // It opens no other window: nobody is there to close one.
+    Ouvertures ouvertures;
+    ouvertures.mois = nouveauMois;
+    Mdivel fenetre(session, ouvertures);
+    fenetre.charge();
+    fenetre.resize(ecran);
+    fenetre.show();
+    fenetre.ouvreMois();
+    auto *mois = fenetre.findChild<MonthView *>();
+    return mois && attendPret(*mois) && fenetre.grab().save(fichier, "PNG");
 }
 
 } // namespace velmora

@@ -43,10 +43,15 @@ private:
 
 } // namespace
 
+MonthView *nouveauMois(Session &session, QWidget *parent)
+{
+    return new Fplan(session, parent);
+}
+
 std::unique_ptr<Mdivel> fenetrePrincipale(Session &session)
 {
     Ouvertures ouvertures;
-    ouvertures.mois = [](Session &ouverte, QWidget *parent) { return new Fplan(ouverte, parent); };
+    ouvertures.mois = nouveauMois;
     return std::make_unique<Mdivel>(session, ouvertures);
 }
 

@@ -8,6 +8,9 @@
 namespace velmora
 {
 
+/// Makes the form of the session's month.
+[[nodiscard]] MonthView *nouveauMois(Session &session, QWidget *parent);
+
 /// The main window with everything that it opens.
 [[nodiscard]] std::unique_ptr<Mdivel> fenetrePrincipale(Session &session);
 

@@ -51,7 +51,11 @@ Mdivel::Mdivel(Session &session, Ouvertures ouvertures, QWidget *parent)
     resize(tailleDepart);
 }
 
-Mdivel::~Mdivel() = default;
+/// The month goes first: what it says as it closes still finds the whole window.
+Mdivel::~Mdivel()
+{
+    delete m_mois.data();
+}
 
 void Mdivel::construitMenus()
 {
