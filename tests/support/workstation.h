@@ -48,6 +48,11 @@ public:
         jour.heurfin = heurfin;
         jour.hideb = hideb;
         jour.hifin = hifin;
+        const bool coupe = hideb != hifin;
+        jour.hdeb1 = heurdeb;
+        jour.hfin1 = coupe ? hideb : heurfin;
+        jour.hdeb2 = coupe ? hifin : 0;
+        jour.hfin2 = coupe ? heurfin : 0;
         ASSERT_TRUE(sitper.update().ok());
     }
 
