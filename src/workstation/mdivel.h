@@ -46,6 +46,8 @@ public:
 
     /// Reads the user's settings behind the splash, then lets the check of the calendar follow.
     void charge();
+    /// Opens the month that the session holds; one that is open gives way.
+    void ouvreMois();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -87,7 +89,6 @@ private:
     void hscroll1Change(int value);
     void vscroll1Change(int value);
 
-    void ouvreMois();
     void relieMois();
     void fermeMois();
     void moisFerme();
