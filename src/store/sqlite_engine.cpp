@@ -137,6 +137,8 @@ Status SqliteEngine::open(const QString &path, const OpenOptions &options)
     close();
     int flags = options.readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
     if (options.create) flags |= SQLITE_OPEN_CREATE;
+    // A session has one thread, so each call is spared the connection's mutex.
+    flags |= SQLITE_OPEN_NOMUTEX;
     const int result = sqlite3_open_v2(QFile::encodeName(path).constData(), &m_database,
                                        flags | SQLITE_OPEN_EXRESCODE, nullptr);
     Status status = noted(result);
