@@ -1,5 +1,7 @@
 #include "entry/partielm.h"
 
+#include "entry/typed_entry.h"
+
 #include "entry/derivation.h"
 #include "entry/hour_bar_view.h"
 #include "foncgen/field_wiring.h"
@@ -79,7 +81,12 @@ Partielm::Partielm(Session &session, Ecrihor ecrihor, QWidget *parent)
     dispose();
     relie();
     montre();
-    m_timer1.start(m_journee.jour ? attenteJourExistant : attenteJourNouveau);
+    m_timer1.start(m_journee.existe() ? attenteJourExistant : attenteJourNouveau);
+}
+
+Partielm::~Partielm()
+{
+    hide(); // the focus leaves its field while what the field's events use is still there
 }
 
 void Partielm::construit()
@@ -272,6 +279,10 @@ bool Partielm::toutSelectionne(int numero) const
 
 void Partielm::charge()
 {
+    if (m_anormale) {
+        m_session.host.message(QStringLiteral("situation anormale: opération impossible"), titre);
+        return reject();
+    }
     m_saisie.ouvre(m_journee.jour);
     montre();
     if (champ(1)->hasFocus()) champ(1)->selectAll();
@@ -330,10 +341,10 @@ void Partielm::delai()
 
 void Partielm::ok()
 {
-    const bool bon = m_saisie.normhor();
+    const bool bon = m_saisie.valide();
     montre();
     if (!bon) {
-        m_session.host.message(QStringLiteral("horaire en anomalie !"), titre);
+        m_session.host.message(horaireEnAnomalie(), titre);
         return;
     }
     m_ecrihor(m_journee, jourDeSaisie(m_saisie.textes(), m_saisie.total()));

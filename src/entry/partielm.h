@@ -9,7 +9,6 @@
 #include <array>
 #include <functional>
 
-class QGridLayout;
 class QGroupBox;
 class QLabel;
 class QLayout;
@@ -19,7 +18,6 @@ class QPushButton;
 namespace velmora
 {
 
-class FieldWiring;
 class HourBarView;
 
 /// "Heures - Horaire": enters the hours of a line for a day or a run of days. It shows what `SaisieHoraire`
@@ -34,6 +32,11 @@ public:
 
     /// Opens on what the session was given for it; `dlgvalide` tells whether hours were stored.
     Partielm(Session &session, Ecrihor ecrihor, QWidget *parent = nullptr);
+    ~Partielm() override;
+
+    /// Marks the situation as abnormal before the dialog shows: it then says so and closes. Reserved, nothing
+    /// asks for it.
+    void marqueAnormale() { m_anormale = true; }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -70,6 +73,7 @@ private:
     Ecrihor m_ecrihor;
     JourneeSaisie m_journee;
     SaisieHoraire m_saisie;
+    bool m_anormale = false;
     bool m_enQuittant = false; // a field is being left: the focus can't be moved before it has gone
 
     QLabel *m_label1;    // name of the line

@@ -15,6 +15,8 @@ struct JourneeSaisie {
     QString nom;                 ///< name of the line; empty without a line
     QString titre;               ///< of the entry: the line's heading with its dates
     std::optional<JourSit> jour; ///< hours stored for `dd`; those of the other dates are not looked at
+
+    [[nodiscard]] bool existe() const { return jour.has_value(); }
 };
 
 /// Leaves in the session what a day entry is given: the line's heading, the date, and the last date of the

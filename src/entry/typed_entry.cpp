@@ -5,6 +5,11 @@
 namespace velmora
 {
 
+QString horaireEnAnomalie()
+{
+    return QStringLiteral("horaire en anomalie !");
+}
+
 std::optional<SaisieHoraire> normaliseTranches(const QStringList &heures)
 {
     if (heures.size() > SaisieHoraire::nbChamps) return std::nullopt;

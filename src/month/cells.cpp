@@ -35,17 +35,29 @@ QString texteCoupes(const Horaire &horaire)
     return texte;
 }
 
-/// Starts and ends of the slices that the cuts leave. The second cut counts only behind a first one.
+/// Gives the start and end of each slice that the cuts leave to `recoit`.
+template <class Recoit> void parTranche(const Horaire &horaire, Recoit recoit)
+{
+    int debut = horaire.heurdeb;
+    if (horaire.premiereCoupe()) {
+        recoit(debut, horaire.hideb);
+        debut = horaire.hifin;
+    }
+    if (horaire.secondeCoupe()) {
+        recoit(debut, horaire.hideb2);
+        debut = horaire.hifin2;
+    }
+    recoit(debut, horaire.heurfin);
+}
+
 QString texteTranches(const Horaire &horaire)
 {
-    const QLatin1Char saut('\n');
-    if (horaire.secondeCoupe()) {
-        return tranche(horaire.heurdeb, horaire.hideb) + saut + tranche(horaire.hifin, horaire.hideb2) +
-               saut + tranche(horaire.hifin2, horaire.heurfin);
-    }
-    if (horaire.premiereCoupe())
-        return tranche(horaire.heurdeb, horaire.hideb) + saut + tranche(horaire.hifin, horaire.heurfin);
-    return tranche(horaire.heurdeb, horaire.heurfin);
+    QString texte;
+    parTranche(horaire, [&](int debut, int fin) {
+        if (!texte.isEmpty()) texte += QLatin1Char('\n');
+        texte += tranche(debut, fin);
+    });
+    return texte;
 }
 
 /// The status text of valid hours. Its times follow the totals option.
@@ -83,14 +95,12 @@ private:
     }
     [[nodiscard]] QString tranches() const
     {
-        const QString suite = QStringLiteral(" + de ");
-        if (m_horaire.secondeCoupe()) {
-            return deA(m_horaire.heurdeb, m_horaire.hideb) + suite + deA(m_horaire.hifin, m_horaire.hideb2) +
-                   suite + deA(m_horaire.hifin2, m_horaire.heurfin);
-        }
-        if (m_horaire.premiereCoupe())
-            return deA(m_horaire.heurdeb, m_horaire.hideb) + suite + deA(m_horaire.hifin, m_horaire.heurfin);
-        return deA(m_horaire.heurdeb, m_horaire.heurfin);
+        QString texte;
+        parTranche(m_horaire, [&](int debut, int fin) {
+            if (!texte.isEmpty()) texte += QStringLiteral(" + de ");
+            texte += deA(debut, fin);
+        });
+        return texte;
     }
 
     const Horaire &m_horaire;

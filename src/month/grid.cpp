@@ -36,7 +36,8 @@ void Grille::dimensionne(int colonnes)
         for (Case &une : ligne.cases)
             une = {{}, palette::fondFixe, palette::encreFixe, false};
     m_rangees.back().hauteur = hauteurReserve;
-    changeTaille();
+    m_tailleSale = true;
+    changeLignes();
 }
 
 int Grille::insereLigne(int hauteur)
@@ -47,14 +48,14 @@ int Grille::insereLigne(int hauteur)
     for (int colonne = 0; colonne < std::min(m_colonnes, colonnesFixes); ++colonne)
         nouvelle.cases[rang(colonne)] = {{}, palette::fondFixe, palette::encreFixe, false};
     m_rangees.insert(m_rangees.end() - 1, std::move(nouvelle));
-    if (surLigne) surLigne(ligne, true);
+    changeLignes();
     return ligne;
 }
 
 void Grille::retireLigne(int ligne)
 {
     m_rangees.erase(m_rangees.begin() + ligne);
-    if (surLigne) surLigne(ligne, false);
+    changeLignes();
 }
 
 void Grille::ecrit(int ligne, int colonne, const QString &texte)
@@ -106,10 +107,11 @@ void Grille::change(int ligne, int colonne)
         if (surChangement) surChangement({ligne, colonne, ligne, colonne});
         return;
     }
-    if (!m_sale) m_attente = {ligne, colonne, ligne, colonne};
+    Rangee &changee = rangee(ligne);
+    const bool premiere = changee.sale1 == changee.sale2;
+    changee.sale1 = premiere ? colonne : std::min(changee.sale1, colonne);
+    changee.sale2 = std::max(changee.sale2, colonne + 1);
     m_sale = true;
-    m_attente = {std::min(m_attente.ligne1, ligne), std::min(m_attente.colonne1, colonne),
-                 std::max(m_attente.ligne2, ligne), std::max(m_attente.colonne2, colonne)};
 }
 
 void Grille::changeTaille()
@@ -118,11 +120,39 @@ void Grille::changeTaille()
     if (m_suspendu == 0) reprend();
 }
 
+void Grille::changeLignes()
+{
+    m_lignesSales = true;
+    if (m_suspendu == 0) reprend();
+}
+
 void Grille::reprend()
 {
     if (m_suspendu > 0 && --m_suspendu > 0) return;
+    if (std::exchange(m_lignesSales, false) && surLignes) surLignes();
     if (std::exchange(m_tailleSale, false) && surTaille) surTaille();
-    if (std::exchange(m_sale, false) && surChangement) surChangement(m_attente);
+    if (std::exchange(m_sale, false)) diffuse();
+}
+
+void Grille::diffuse()
+{
+    std::vector<Plage> plages;
+    for (int ligne = 0; ligne < lignes(); ++ligne) {
+        Rangee &lue = rangee(ligne);
+        if (lue.sale1 == lue.sale2) continue;
+        const Plage plage{ligne, lue.sale1, ligne, lue.sale2 - 1};
+        lue.sale1 = lue.sale2 = 0;
+        const bool suite = !plages.empty() && plages.back().ligne2 == ligne - 1 &&
+                           plages.back().colonne1 == plage.colonne1 &&
+                           plages.back().colonne2 == plage.colonne2;
+        if (suite)
+            plages.back().ligne2 = ligne;
+        else
+            plages.push_back(plage);
+    }
+    if (!surChangement) return;
+    for (const Plage &plage : plages)
+        surChangement(plage);
 }
 
 } // namespace velmora

@@ -82,14 +82,15 @@ public:
     [[nodiscard]] int avantmois(int ligne) const { return rangee(ligne).avantmois; }
     void fixeAvantmois(int ligne, int minutes) { rangee(ligne).avantmois = minutes; }
 
-    /// While drawing is suspended changes are gathered; the outermost resumption tells them at once.
+    /// While drawing is suspended changes are gathered; the outermost resumption tells them: rows, then sizes,
+    /// then cells, those of a row as one run and equal runs of neighbouring rows together.
     void suspend() { ++m_suspendu; }
     void reprend();
 
     /// Whoever shows the grid listens here.
     std::function<void(const Plage &)> surChangement;
-    std::function<void()> surTaille;                     ///< widths or heights changed
-    std::function<void(int ligne, bool ajout)> surLigne; ///< a row came or went
+    std::function<void()> surTaille; ///< widths or heights changed
+    std::function<void()> surLignes; ///< rows came or went: the changes of cells that follow count them
 
 private:
     struct Rangee {
@@ -98,6 +99,8 @@ private:
         int nump = 0;
         int avantmois = 0;
         int hauteur = 0;
+        int sale1 = 0; ///< first cell whose change waits to be told, and the one past the last
+        int sale2 = 0;
     };
 
     [[nodiscard]] static std::size_t rang(int place) { return static_cast<std::size_t>(place); }
@@ -106,6 +109,8 @@ private:
     [[nodiscard]] Rangee rangeeVide() const;
     void change(int ligne, int colonne);
     void changeTaille();
+    void changeLignes();
+    void diffuse();
 
     std::vector<Rangee> m_rangees;
     std::vector<int> m_largeurs;
@@ -113,7 +118,7 @@ private:
     int m_suspendu = 0;
     bool m_sale = false;
     bool m_tailleSale = false;
-    Plage m_attente;
+    bool m_lignesSales = false;
 };
 
 /// Suspends a grid's drawing for a scope.

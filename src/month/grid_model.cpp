@@ -8,7 +8,7 @@ ModeleGrille::ModeleGrille(Planning &planning, QObject *parent)
 {
     planning.grille.surChangement = [this](const Plage &plage) { change(plage); };
     planning.grille.surTaille = [this] { emit taillesChangees(); };
-    planning.grille.surLigne = [this](int ligne, bool ajout) { changeLigne(ligne, ajout); };
+    planning.grille.surLignes = [this] { recharge(); };
 }
 
 int ModeleGrille::rowCount(const QModelIndex &parent) const
@@ -46,6 +46,8 @@ QVariant ModeleGrille::data(const QModelIndex &index, int role) const
 QVariant ModeleGrille::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole) return {};
+    const int sections = orientation == Qt::Horizontal ? columnCount() : rowCount();
+    if (section < 0 || section >= sections) return {};
     if (orientation == Qt::Horizontal) return grille().lit(Grille::ligneJour, colonneGrille(section)).texte;
     return grille().lit(ligneGrille(section), Grille::colonneNom).texte;
 }
@@ -64,11 +66,6 @@ void ModeleGrille::change(const Plage &plage)
     const int colonne = std::max(colonneVue(plage.colonne1), 0);
     if (plage.ligne2 < Grille::lignesFixes || plage.colonne2 < Grille::colonnesFixes) return;
     emit dataChanged(index(ligne, colonne), index(ligneVue(plage.ligne2), colonneVue(plage.colonne2)));
-}
-
-void ModeleGrille::changeLigne(int, bool)
-{
-    recharge();
 }
 
 } // namespace velmora

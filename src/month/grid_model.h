@@ -40,7 +40,6 @@ signals:
 
 private:
     void change(const Plage &plage);
-    void changeLigne(int ligne, bool ajout);
 
     Planning &m_planning;
 };

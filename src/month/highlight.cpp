@@ -6,10 +6,23 @@ namespace velmora
 namespace
 {
 
+struct Couleurs {
+    QRgb fond;
+    QRgb encre;
+};
+
 /// The label of a day column; total columns keep theirs.
-void coloreJour(Planning &planning, int colonne, QRgb fond, QRgb encre)
+void coloreJour(Planning &planning, int colonne, const Couleurs &couleurs)
 {
-    if (planning.colonnes.estJour(colonne)) planning.grille.colore(Grille::ligneJour, colonne, fond, encre);
+    if (planning.colonnes.estJour(colonne))
+        planning.grille.colore(Grille::ligneJour, colonne, couleurs.fond, couleurs.encre);
+}
+
+Couleurs couleursJour(const Planning &planning, int colonne)
+{
+    if (planning.date(colonne) == planning.session.host.today())
+        return {palette::fondAujourdhui, palette::encreAujourdhui};
+    return {palette::fondFixe, palette::encreFixe};
 }
 
 void rendCouleurs(Planning &planning)
@@ -19,9 +32,7 @@ void rendCouleurs(Planning &planning)
     if (place.ligne < 0 || place.ligne >= grille.lignes()) return;
     grille.colore(place.ligne, place.colonne, planning.surbrillance.fond, planning.surbrillance.encre);
     grille.colore(place.ligne, Grille::colonneNom, palette::fondFixe, palette::encreFixe);
-    const bool aujourdhui = planning.date(place.colonne) == planning.session.host.today();
-    coloreJour(planning, place.colonne, aujourdhui ? palette::fondAujourdhui : palette::fondFixe,
-               aujourdhui ? palette::encreAujourdhui : palette::encreFixe);
+    coloreJour(planning, place.colonne, couleursJour(planning, place.colonne));
 }
 
 } // namespace
@@ -36,13 +47,24 @@ void coloreCase(Planning &planning, const Place &place, QRgb fond, QRgb encre)
     planning.surbrillance.encre = encre;
 }
 
+void quitteRangee(Planning &planning, int rangee)
+{
+    Place &place = planning.surbrillance.place;
+    if (place.ligne == rangee) {
+        coloreJour(planning, place.colonne, couleursJour(planning, place.colonne));
+        place = {-1, -1};
+    } else if (place.ligne > rangee) {
+        --place.ligne;
+    }
+}
+
 void deplaceSurbrillance(Planning &planning)
 {
     Grille &grille = planning.grille;
     const Place place = planning.curseur;
     rendCouleurs(planning);
     grille.colore(place.ligne, Grille::colonneNom, palette::fondSelection, palette::encreSelection);
-    coloreJour(planning, place.colonne, palette::fondSelection, palette::encreSelection);
+    coloreJour(planning, place.colonne, {palette::fondSelection, palette::encreSelection});
     const Case &courante = grille.lit(place.ligne, place.colonne);
     planning.surbrillance = {place, courante.fond, courante.encre};
     grille.colore(place.ligne, place.colonne, palette::fondSelection, palette::encreSelection);

@@ -12,4 +12,7 @@ void coloreCase(Planning &planning, const Place &place, QRgb fond, QRgb encre);
 /// back, the current ones take the selection's. The cursor doesn't move.
 void deplaceSurbrillance(Planning &planning);
 
+/// Keeps the highlight on its cell after a row has been removed, or forgets it with the row.
+void quitteRangee(Planning &planning, int rangee);
+
 } // namespace velmora

@@ -73,7 +73,7 @@ void cycle(Planning &planning)
     deplaceSurbrillance(planning);
     commandesCellule(planning, ligne);
     majcommandes(planning);
-    planning.commandes.ligneCourante = ligne.nom;
+    planning.commandes.ligneCourante = planning.grille.lit(place.ligne, Grille::colonneNom).texte;
     planning.commandes.renommerLigne = true;
 }
 

@@ -227,6 +227,15 @@ void majlignecomplet(Planning &planning, const Ligne &ligne, int rangee)
     refait(planning, ligne.nump, &ligne, rangee);
 }
 
+void retireRangee(Planning &planning, int rangee)
+{
+    const DessinSuspendu dessin(planning.grille);
+    soustotal(planning, rangee);
+    planning.grille.retireLigne(rangee);
+    ecritTotaux(planning);
+    quitteRangee(planning, rangee);
+}
+
 void choisitCentiemes(Planning &planning, bool centiemes)
 {
     if (std::exchange(planning.session.totcent, centiemes) == centiemes) return;

@@ -28,6 +28,10 @@ void majligne(Planning &planning, int nump, int rangee);
 /// The same for a line whose dates changed too.
 void majlignecomplet(Planning &planning, const Ligne &ligne, int rangee);
 
+/// Removes a row with its share of the column totals. The highlight, if it was on that row, is forgotten; the
+/// cursor is left to the caller.
+void retireRangee(Planning &planning, int rangee);
+
 /// Shows the totals in hundredths of an hour (`mnucent`) or in hours and minutes (`mnuhm`). Only the texts
 /// change; the tables aren't read.
 void choisitCentiemes(Planning &planning, bool centiemes);

@@ -20,7 +20,6 @@ namespace
 
 // A ring of fewer rows gets its 31; the bound is wanted as it is and has no relation to them.
 constexpr int lignesAnneauMini = 6;
-constexpr int versionJournal = 2;
 
 bool refuse(Session &session, const QString &message)
 {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "store/fields.h"
-
 #include <QString>
 
 #include <optional>
@@ -78,43 +76,3 @@ struct Agent {
 };
 
 } // namespace velmora
-
-namespace velmora::store
-{
-
-template <>
-inline constexpr auto fieldsOf<Affichage> = fields(
-    field("cclbp", &Affichage::cclbp), field("cclbnp", &Affichage::cclbnp), field("cclfp", &Affichage::cclfp),
-    field("cclfnp", &Affichage::cclfnp), field("cclbpi", &Affichage::cclbpi),
-    field("cclbnpi", &Affichage::cclbnpi), field("cclfpi", &Affichage::cclfpi),
-    field("cclfnpi", &Affichage::cclfnpi), field("cclfgrid", &Affichage::cclfgrid),
-    field("cclbgrid", &Affichage::cclbgrid), field("cclfsd", &Affichage::cclfsd),
-    field("cclff", &Affichage::cclff), field("cclfform", &Affichage::cclfform),
-    field("cclbform", &Affichage::cclbform), field("cclfm", &Affichage::cclfm),
-    field("cclbm1", &Affichage::cclbm1), field("cclbm2", &Affichage::cclbm2),
-    field("cclbsel", &Affichage::cclbsel), field("cclbdem", &Affichage::cclbdem),
-    field("cclbano", &Affichage::cclbano), field("cclberr", &Affichage::cclberr),
-    field("cclbsais", &Affichage::cclbsais), field("cclfm1", &Affichage::cclfm1),
-    field("cclfm2", &Affichage::cclfm2), field("cclfsel", &Affichage::cclfsel),
-    field("cclfdem", &Affichage::cclfdem), field("cclfano", &Affichage::cclfano),
-    field("cclferr", &Affichage::cclferr), field("cclfsais", &Affichage::cclfsais),
-    field("cclfnom", &Affichage::cclfnom), field("cclbnpp", &Affichage::cclbnpp),
-    field("cclbnpip", &Affichage::cclbnpip), field("cclfnpp", &Affichage::cclfnpp),
-    field("cclfnpip", &Affichage::cclfnpip), field("font1", &Affichage::font1),
-    field("font2", &Affichage::font2), field("font3", &Affichage::font3), field("taill1", &Affichage::taill1),
-    field("taill2", &Affichage::taill2), field("taill3", &Affichage::taill3),
-    field("fontb1", &Affichage::fontb1), field("fontb2", &Affichage::fontb2),
-    field("fontb3", &Affichage::fontb3), field("haut1", &Affichage::haut1), field("haut2", &Affichage::haut2),
-    field("haut3", &Affichage::haut3), field("largn1", &Affichage::largn1),
-    field("largn2", &Affichage::largn2), field("largn3", &Affichage::largn3),
-    field("larg01", &Affichage::larg01), field("larg02", &Affichage::larg02),
-    field("larg03", &Affichage::larg03));
-
-template <>
-inline constexpr auto
-    fieldsOf<Agent> = std::tuple_cat(fields(field("pseudo", &Agent::pseudo), field("nom", &Agent::nom),
-                                            field("droit", &Agent::droit), field("mes", &Agent::mes),
-                                            field("bss", &Agent::bss)),
-                                     fieldsWithin(&Agent::affichage, fieldsOf<Affichage>));
-
-} // namespace velmora::store

@@ -3,25 +3,26 @@
 #include <tuple>
 #include <utility>
 
-namespace velmora::store {
+namespace velmora::store
+{
 
 /// One field of a row: its column name and how to reach it in the struct. The list of a struct's fields,
 /// `fieldsOf<Row>`, is the only place where they are named: schema, statements and copies come from it.
-template <class Get>
-struct Field {
+template <class Get> struct Field {
     const char *name;
     Get get; ///< Row & -> reference to the field, const or not with the row
 };
 
-template <class Row, class T>
-constexpr auto field(const char *name, T Row::*member)
+template <class Row, class T> constexpr auto field(const char *name, T Row::*member)
 {
-    auto get = [member](auto &row) -> auto & { return row.*member; };
+    auto get = [member](auto &row) -> auto &
+    {
+        return row.*member;
+    };
     return Field<decltype(get)>{name, get};
 }
 
-template <class... Fields>
-constexpr auto fields(Fields... list)
+template <class... Fields> constexpr auto fields(Fields... list)
 {
     return std::make_tuple(list...);
 }
@@ -33,7 +34,10 @@ constexpr auto fieldsWithin(Inner Row::*member, const std::tuple<Fields...> &lis
     return std::apply(
         [member](const auto &...inner) {
             auto lift = [member](const auto &one) {
-                auto get = [member, reach = one.get](auto &row) -> auto & { return reach(row.*member); };
+                auto get = [ member, reach = one.get ](auto &row) -> auto &
+                {
+                    return reach(row.*member);
+                };
                 return Field<decltype(get)>{one.name, get};
             };
             return std::make_tuple(lift(inner)...);
@@ -42,7 +46,6 @@ constexpr auto fieldsWithin(Inner Row::*member, const std::tuple<Fields...> &lis
 }
 
 /// The fields of a row type, specialised beside each row.
-template <class Row>
-inline constexpr auto fieldsOf = std::tuple<>{};
+template <class Row> inline constexpr auto fieldsOf = std::tuple<>{};
 
 } // namespace velmora::store

@@ -6,6 +6,9 @@
 namespace velmora
 {
 
+/// Format version that a new `chemin` row is given; nothing reads it.
+inline constexpr int versionJournal = 2;
+
 /// `chemin`: the workstation's tie to the main database. One row.
 struct Chemin {
     int nor = 0; ///< always 1
@@ -49,34 +52,3 @@ struct JourCopie {
 };
 
 } // namespace velmora
-
-namespace velmora::store
-{
-
-template <>
-inline constexpr auto fieldsOf<Chemin> = fields(field("nor", &Chemin::nor),
-                                                field("Version", &Chemin::Version),
-                                                field("chemin", &Chemin::chemin));
-
-template <>
-inline constexpr auto
-    fieldsOf<Operation> = fields(field("numop", &Operation::numop), field("ordop", &Operation::ordop),
-                                 field("nivop", &Operation::nivop), field("ficop", &Operation::ficop),
-                                 field("libop", &Operation::libop), field("valop", &Operation::valop));
-
-template <>
-inline constexpr auto fieldsOf<Rang> = fields(field("numop", &Rang::numop), field("nivop", &Rang::nivop),
-                                              field("avap", &Rang::avap), field("foncop", &Rang::foncop));
-
-template <>
-inline constexpr auto fieldsOf<ImageSit> = std::tuple_cat(fieldsWithin(&ImageSit::rang, fieldsOf<Rang>),
-                                                          fieldsWithin(&ImageSit::jour, fieldsOf<JourSit>));
-
-template <>
-inline constexpr auto fieldsOf<ImageAbs> = std::tuple_cat(fieldsWithin(&ImageAbs::rang, fieldsOf<Rang>),
-                                                          fieldsWithin(&ImageAbs::absence,
-                                                                       fieldsOf<AbsenceSaisie>));
-
-template <> inline constexpr auto fieldsOf<JourCopie> = fieldsWithin(&JourCopie::jour, fieldsOf<JourSit>);
-
-} // namespace velmora::store

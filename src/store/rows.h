@@ -1,7 +1,5 @@
 #pragma once
 
-#include "store/fields.h"
-
 #include <QDate>
 #include <QDateTime>
 #include <QString>
@@ -9,7 +7,8 @@
 #include <optional>
 
 // The rows of the main database's tables. Minutes are whole minutes; see each table's row for the rest.
-namespace velmora {
+namespace velmora
+{
 
 /// A moment of the day or a duration, in minutes.
 inline constexpr int minutesParJour = 1440;
@@ -130,66 +129,3 @@ struct Veloption {
 };
 
 } // namespace velmora
-
-namespace velmora::store {
-
-template <>
-inline constexpr auto fieldsOf<JourSit> =
-    fields(field("nump", &JourSit::nump), field("dat", &JourSit::dat), field("Type", &JourSit::Type),
-           field("numri", &JourSit::numri), field("numi", &JourSit::numi), field("numimp", &JourSit::numimp),
-           field("numv", &JourSit::numv), field("sit", &JourSit::sit), field("Val", &JourSit::Val),
-           field("heurdeb", &JourSit::heurdeb), field("heurfin", &JourSit::heurfin),
-           field("hideb", &JourSit::hideb), field("hifin", &JourSit::hifin), field("hideb2", &JourSit::hideb2),
-           field("hifin2", &JourSit::hifin2), field("heurtrav", &JourSit::heurtrav),
-           field("heurpaye", &JourSit::heurpaye), field("hdeb1", &JourSit::hdeb1),
-           field("hfin1", &JourSit::hfin1), field("hdeb2", &JourSit::hdeb2), field("hfin2", &JourSit::hfin2),
-           field("hdeb3", &JourSit::hdeb3), field("hfin3", &JourSit::hfin3), field("hdeb4", &JourSit::hdeb4),
-           field("hfin4", &JourSit::hfin4), field("hdeb5", &JourSit::hdeb5), field("hfin5", &JourSit::hfin5),
-           field("hdeb6", &JourSit::hdeb6), field("hfin6", &JourSit::hfin6), field("datj", &JourSit::datj),
-           field("horaire", &JourSit::horaire), field("babs", &JourSit::babs));
-
-template <>
-inline constexpr auto fieldsOf<Ligne> =
-    fields(field("nump", &Ligne::nump), field("nom", &Ligne::nom), field("datedeb", &Ligne::datedeb),
-           field("datefin", &Ligne::datefin), field("bcontrolh", &Ligne::bcontrolh),
-           field("maxs", &Ligne::maxs), field("maxj", &Ligne::maxj), field("ampj", &Ligne::ampj),
-           field("reposmin", &Ligne::reposmin), field("b6j", &Ligne::b6j),
-           field("bcontrolr", &Ligne::bcontrolr), field("nrep", &Ligne::nrep), field("nrepd", &Ligne::nrepd),
-           field("bcontrolp", &Ligne::bcontrolp), field("pause", &Ligne::pause));
-
-template <>
-inline constexpr auto fieldsOf<AbsenceSaisie> =
-    fields(field("nump", &AbsenceSaisie::nump), field("numi", &AbsenceSaisie::numi),
-           field("codabs", &AbsenceSaisie::codabs), field("datedeb", &AbsenceSaisie::datedeb),
-           field("datefin", &AbsenceSaisie::datefin));
-
-template <>
-inline constexpr auto fieldsOf<CodeAbsence> =
-    fields(field("codabs", &CodeAbsence::codabs), field("libecour", &CodeAbsence::libecour),
-           field("libelong", &CodeAbsence::libelong), field("modabs", &CodeAbsence::modabs),
-           field("bcouleur", &CodeAbsence::bcouleur), field("backc", &CodeAbsence::backc),
-           field("forec", &CodeAbsence::forec), field("barc", &CodeAbsence::barc),
-           field("classe", &CodeAbsence::classe), field("larr", &CodeAbsence::larr));
-
-template <>
-inline constexpr auto fieldsOf<JeuParam> =
-    fields(field("dat", &JeuParam::dat), field("fdomtom", &JeuParam::fdomtom),
-           field("convcol", &JeuParam::convcol), field("nometab", &JeuParam::nometab));
-
-template <>
-inline constexpr auto fieldsOf<JourFerie> =
-    fields(field("datedeb", &JourFerie::datedeb), field("datefin", &JourFerie::datefin),
-           field("lib", &JourFerie::lib), field("act", &JourFerie::act), field("Val", &JourFerie::Val));
-
-template <>
-inline constexpr auto fieldsOf<Dossier> =
-    fields(field("groupe", &Dossier::groupe), field("nump", &Dossier::nump), field("sel", &Dossier::sel));
-
-template <>
-inline constexpr auto fieldsOf<Tnum> =
-    fields(field("chemin", &Tnum::chemin), field("Version", &Tnum::Version), field("num", &Tnum::num));
-
-template <>
-inline constexpr auto fieldsOf<Veloption> = fields(field("num", &Veloption::num));
-
-} // namespace velmora::store

@@ -1,8 +1,5 @@
 #pragma once
 
-#include "store/column_types.h"
-#include "store/fields.h"
-
 #include <QString>
 #include <QStringList>
 
@@ -61,38 +58,10 @@ struct Schema {
     [[nodiscard]] QStringList creation() const;
 };
 
-/// Calls `visit(field, std::type_identity<T>{})` for each field of the row that the table keeps, in order.
-template <class Row, class Visit> void forEachColumn(Visit &&visit)
-{
-    std::apply(
-        [&visit](const auto &...field) {
-            auto one = [&visit](const auto &kept) {
-                using Value = std::remove_cvref_t<decltype(kept.get(std::declval<Row &>()))>;
-                if (TableDef<Row>::keeps(kept.name)) visit(kept, std::type_identity<Value>{});
-            };
-            (one(field), ...);
-        },
-        fieldsOf<Row>);
-}
-
 /// The columns and indexes as declared, filled in by `schemaOf`.
 void addIndexes(Schema &schema, const std::vector<IndexDef> &indexes);
 
-template <class Row> const Schema &schemaOf()
-{
-    static const Schema schema = [] {
-        Schema made;
-        made.table = QString::fromLatin1(TableDef<Row>::name);
-        made.clustered = TableDef<Row>::clustered;
-        forEachColumn<Row>([&made](const auto &field, auto type) {
-            made.columns.push_back({QString::fromLatin1(field.name),
-                                    QString::fromLatin1(ColumnType<typename decltype(type)::type>::sql),
-                                    TableDef<Row>::sortsAsFrench(field.name), false});
-        });
-        addIndexes(made, TableDef<Row>::indexes());
-        return made;
-    }();
-    return schema;
-}
+/// A row type's schema, made once.
+template <class Row> const Schema &schemaOf();
 
 } // namespace velmora::store

@@ -2,7 +2,8 @@
 
 #include <QString>
 
-namespace velmora::store {
+namespace velmora::store
+{
 
 /// The outcome of a store operation: the store's one error channel. Nothing throws across its face.
 class [[nodiscard]] Status

@@ -2,6 +2,7 @@
 
 #include "store/table_base.h"
 
+#include <cstddef>
 #include <utility>
 
 namespace velmora::store
@@ -24,27 +25,28 @@ private:
     Row m_row;
 };
 
-/// The columns of a row type that a pass reads.
+/// How one column of a row type is read and bound.
+template <class Row> struct ColumnAccess {
+    void (*read)(Row &, const Statement &, int column);
+    void (*bind)(const Row &, Statement &, int position);
+    std::ptrdiff_t offset; ///< of the member in the row
+};
+
+/// Every column of the row's table, in order.
+template <class Row> const std::vector<ColumnAccess<Row>> &accessOf();
+
+/// The columns of a row type that a pass reads, as their ordinals.
 template <class Row> class Columns
 {
 public:
-    using Read = void (*)(Row &, const Statement &, int);
-    using Bind = void (*)(const Row &, Statement &, int);
-
-    /// Every column of the table, in order.
-    static const std::vector<Read> &readers() { return accessors().first; }
-    static const std::vector<Bind> &binders() { return accessors().second; }
-
     /// The columns of these members of the row.
     template <class... Members> static std::vector<int> of(Members Row::*...members)
     {
-        std::vector<int> ordinals;
-        (ordinals.push_back(ordinalOf(members)), ...);
-        return ordinals;
+        return {ordinalOf(members)...};
     }
     static std::vector<int> all()
     {
-        std::vector<int> ordinals(readers().size());
+        std::vector<int> ordinals(accessOf<Row>().size());
         for (std::size_t i = 0; i < ordinals.size(); ++i)
             ordinals[i] = static_cast<int>(i);
         return ordinals;
@@ -54,39 +56,12 @@ private:
     template <class Member> static int ordinalOf(Member Row::*member)
     {
         const Row probe{};
-        int at = 0;
-        int found = -1;
-        forEachColumn<Row>([&](const auto &field, auto) {
-            if (static_cast<const void *>(&field.get(probe)) == static_cast<const void *>(&(probe.*member)))
-                found = at;
-            ++at;
-        });
-        return found;
-    }
-
-    template <std::size_t I> static void append(std::pair<std::vector<Read>, std::vector<Bind>> &lists)
-    {
-        using FieldType = std::tuple_element_t<I, std::remove_cvref_t<decltype(fieldsOf<Row>)>>;
-        using Value = std::remove_cvref_t<decltype(std::declval<FieldType>().get(std::declval<Row &>()))>;
-        if (!TableDef<Row>::keeps(std::get<I>(fieldsOf<Row>).name)) return;
-        lists.first.push_back([](Row &row, const Statement &statement, int column) {
-            std::get<I>(fieldsOf<Row>).get(row) = ColumnType<Value>::read(statement, column);
-        });
-        lists.second.push_back([](const Row &row, Statement &statement, int position) {
-            ColumnType<Value>::bind(statement, position, std::get<I>(fieldsOf<Row>).get(row));
-        });
-    }
-
-    static const std::pair<std::vector<Read>, std::vector<Bind>> &accessors()
-    {
-        static const auto lists = []<std::size_t... I>(std::index_sequence<I...>)
-        {
-            std::pair<std::vector<Read>, std::vector<Bind>> made;
-            (append<I>(made), ...);
-            return made;
-        }
-        (std::make_index_sequence<std::tuple_size_v<std::remove_cvref_t<decltype(fieldsOf<Row>)>>>{});
-        return lists;
+        const auto offset =
+            reinterpret_cast<const char *>(&(probe.*member)) - reinterpret_cast<const char *>(&probe);
+        const auto &access = accessOf<Row>();
+        for (std::size_t i = 0; i < access.size(); ++i)
+            if (access[i].offset == offset) return static_cast<int>(i);
+        return -1;
     }
 };
 
@@ -115,8 +90,7 @@ public:
     {
         if (!m_statement || m_statement->step() != Statement::Step::Row) return false;
         for (std::size_t i = 0; i < m_columns.size(); ++i)
-            Columns<Row>::readers()[static_cast<std::size_t>(m_columns[i])](m_row, *m_statement,
-                                                                            static_cast<int>(i));
+            m_access[static_cast<std::size_t>(m_columns[i])].read(m_row, *m_statement, static_cast<int>(i));
         return true;
     }
     /// The row read last; fields that the pass doesn't read keep their empty values.
@@ -129,6 +103,7 @@ public:
 private:
     Statement *m_statement;
     std::vector<int> m_columns;
+    const std::vector<ColumnAccess<Row>> &m_access = accessOf<Row>();
     Row m_row;
 };
 
@@ -253,8 +228,8 @@ private:
         if (step == Statement::Step::Row) {
             m_rowid = statement->columnInt(0);
             int column = 0;
-            for (const auto &read : Columns<Row>::readers())
-                read(m_current, *statement, ++column);
+            for (const auto &access : accessOf<Row>())
+                access.read(m_current, *statement, ++column);
             m_hasRow = true;
             m_atEnd = false;
         }
@@ -280,7 +255,7 @@ private:
 
     static void bindColumn(Statement &statement, int position, int column, const Row &row)
     {
-        Columns<Row>::binders()[static_cast<std::size_t>(column)](row, statement, position);
+        accessOf<Row>()[static_cast<std::size_t>(column)].bind(row, statement, position);
     }
 
     void bindIdentity(Statement &statement, int position, std::int64_t rowid, const Row &row)
@@ -293,8 +268,8 @@ private:
     int bindAll(Statement &statement)
     {
         int position = 0;
-        for (const auto &bind : Columns<Row>::binders())
-            bind(m_buffer, statement, ++position);
+        for (const auto &access : accessOf<Row>())
+            access.bind(m_buffer, statement, ++position);
         return position;
     }
 

@@ -1,6 +1,7 @@
 #include "store/table_base.h"
 
 #include "store/collation.h"
+#include "store/column_types.h"
 
 #include <numeric>
 

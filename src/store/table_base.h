@@ -1,6 +1,9 @@
 #pragma once
 
+#include "store/engine.h"
 #include "store/schema.h"
+
+#include <QDate>
 
 #include <cstdint>
 #include <map>

@@ -209,6 +209,30 @@ TEST_F(PartielmForm, OkOnADayWithoutHoursSaysSoAndStaysOpen)
     EXPECT_TRUE(stockes.empty());
 }
 
+TEST_F(PartielmForm, OkStraightAfterAnHourOutOfRangeStoresNothing)
+{
+    stocke({480, 720, 840, 1080});
+    ouvreEtCharge();
+    texte(4)->setFocus();
+    frappe("25");
+    poste.host.expectMessage(QStringLiteral("horaire en anomalie !"));
+    QTest::mouseClick(ok(), Qt::LeftButton);
+    EXPECT_TRUE(stockes.empty());
+    EXPECT_EQ(texte(4)->text(), "18h00");
+    QTest::mouseClick(ok(), Qt::LeftButton);
+    EXPECT_EQ(stockes.size(), 1u) << "the value that was put back has been seen";
+}
+
+TEST_F(PartielmForm, AnAbnormalSituationIsSaidAndCloses)
+{
+    stocke({480, 720, 840, 1080}); // a stored day loads late enough to be marked first
+    poste.host.expectMessage(QStringLiteral("situation anormale: opération impossible"));
+    ouvre();
+    forme->marqueAnormale();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !forme->isVisible(); }));
+    EXPECT_FALSE(poste.session.dlgvalide);
+}
+
 TEST_F(PartielmForm, EscapeAndAnnulerStoreNothing)
 {
     for (const bool parEchap : {true, false}) {

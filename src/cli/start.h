@@ -1,0 +1,24 @@
+#pragma once
+
+#include "cli/commands.h"
+#include "session/session.h"
+
+namespace velmora::cli
+{
+
+/// Starts a session as the window does and runs the work on it. Returns the work's status, or `refuse` when
+/// the start stops on a message. A database that doesn't open ends the process with status 1.
+int surSession(const Appel &appel, const std::function<int(Session &)> &travail);
+
+/// Why a start found no main database, in one sentence.
+[[nodiscard]] QString causeArret(const QString &cheminjournal);
+
+/// Puts `ligmois` on the line of a number as typed. False when the text is no number or there is no such
+/// line.
+[[nodiscard]] bool placeLigne(Session &session, const QString &nump);
+
+// Sentences for words that can't be used.
+[[nodiscard]] QString ligneInconnue(const QString &nump);
+[[nodiscard]] QString dateIllisible(const QString &date);
+
+} // namespace velmora::cli
