@@ -157,8 +157,11 @@ Status SqliteEngine::configure(const OpenOptions &options)
     if (!status.ok()) return status;
     status = execute(QStringLiteral("PRAGMA synchronous = FULL; PRAGMA foreign_keys = OFF;"
                                     "PRAGMA cache_size = -16000"));
+    // Under this setting the engine reads a file that is shorter than its header says.
+    if (status.ok() && options.damaged) status = execute(QStringLiteral("PRAGMA writable_schema = ON"));
+    // The lock outlives the transaction. A commit would write a header into an empty file.
     if (status.ok() && options.exclusive)
-        status = execute(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE; COMMIT"));
+        status = execute(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE; ROLLBACK"));
     // The first read tells a foreign file from a database.
     if (status.ok()) status = execute(QStringLiteral("SELECT count(*) FROM sqlite_master"));
     return status;
