@@ -22,8 +22,9 @@ const QString plantDays = QStringLiteral(
 const QString plantAbsence = QStringLiteral("INSERT INTO absences (nump, numi, codabs, datedeb, datefin) "
                                             "VALUES (?1, 0, 'CP', '2026-06-08', '2026-06-14')");
 
-const QString plantCode = QStringLiteral("INSERT INTO codabs (codabs, libelong, modabs, bcouleur, backc, forec) "
-                                         "VALUES ('CP', 'Congés payés', 0, -1, 16763904, 0)");
+const QString plantCode =
+    QStringLiteral("INSERT INTO codabs (codabs, libelong, modabs, bcouleur, backc, forec) "
+                   "VALUES ('CP', 'Congés payés', 0, -1, 16763904, 0)");
 
 } // namespace
 

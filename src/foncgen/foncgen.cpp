@@ -32,6 +32,20 @@ void writeTwoDigits(QChar *at, int value)
     at[1] = QChar(u'0' + static_cast<char16_t>(value % 10));
 }
 
+using HourBuffer = std::array<QChar, 16>;
+
+/// Writes minutes as hour text at the end of a buffer.
+QStringView writeHour(HourBuffer &buffer, int minutes)
+{
+    const qint64 magnitude = qAbs(qint64{minutes});
+    QChar *const end = buffer.data() + buffer.size();
+    writeTwoDigits(end - 2, static_cast<int>(magnitude % minutesPerHour));
+    *(end - 3) = u'h';
+    QChar *first = writeBackwards(end - 3, static_cast<quint64>(magnitude / minutesPerHour));
+    if (minutes < 0) *--first = u'-';
+    return {first, end};
+}
+
 /// Value of 1 to `maxDigits` ASCII digits; QChar::isDigit would let the digits of other scripts through.
 std::optional<qint64> digits(QStringView text, qsizetype maxDigits)
 {
@@ -143,14 +157,15 @@ QDate Foncgen::ctod(const QString &text)
 
 QString Foncgen::fwhl(int minutes, int /*width*/)
 {
-    const qint64 magnitude = qAbs(qint64{minutes});
-    std::array<QChar, 16> buffer;
-    QChar *const end = buffer.data() + buffer.size();
-    writeTwoDigits(end - 2, static_cast<int>(magnitude % minutesPerHour));
-    *(end - 3) = u'h';
-    QChar *first = writeBackwards(end - 3, static_cast<quint64>(magnitude / minutesPerHour));
-    if (minutes < 0) *--first = u'-';
-    return QString(first, end - first);
+    HourBuffer buffer;
+    const QStringView text = writeHour(buffer, minutes);
+    return text.toString();
+}
+
+void Foncgen::appendHour(QString &text, int minutes)
+{
+    HourBuffer buffer;
+    text.append(writeHour(buffer, minutes));
 }
 
 int Foncgen::valhor(const QString &text)

@@ -31,6 +31,9 @@ public:
     /// states the widest text expected.
     [[nodiscard]] static QString fwhl(int minutes, int width);
 
+    /// Appends what `fwhl` gives to a text, with no text of its own.
+    static void appendHour(QString &text, int minutes);
+
     /// Minutes of an hour text, the inverse of `fwhl` for every int: "152h30" and "-0h15" come back as they
     /// went. Accepts what a person types: "8h20", "08h20", "8h", "8h2" (one digit is the minutes as such:
     /// 8h02), "8:20", "8.20", "8,20", "0820", "820", "8", an upper-case "H", blanks around, a leading "-".

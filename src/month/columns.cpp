@@ -78,8 +78,8 @@ private:
         m_grille.fixeLargeur(colonne, m_contexte.mesures.largcol / 2 + ajoutTotalSemaine);
         bandeau(colonne);
         m_grille.ecrit(Grille::ligneJour, colonne, QStringLiteral("Total Sem."));
-        // A year that ends on a Sunday has no reset here, so its successor's weeks run on from 53. Wanted: after
-        // the grid's first week this rule alone counts.
+        // A year that ends on a Sunday has no reset here, so its successor's weeks run on from 53. Wanted:
+        // after the grid's first week this rule alone counts.
         ++m_semaine;
         const QDate demain = date.addDays(1);
         const bool finDAnnee = date.month() == 12 && demain.day() > 28;

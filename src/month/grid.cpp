@@ -58,11 +58,11 @@ void Grille::retireLigne(int ligne)
     changeLignes();
 }
 
-void Grille::ecrit(int ligne, int colonne, const QString &texte)
+void Grille::ecrit(int ligne, int colonne, QString texte)
 {
     QString &ancien = rangee(ligne).cases[rang(colonne)].texte;
     if (ancien == texte) return;
-    ancien = texte;
+    ancien = std::move(texte);
     change(ligne, colonne);
 }
 

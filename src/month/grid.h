@@ -59,7 +59,7 @@ public:
     [[nodiscard]] bool estLigne(int ligne) const { return ligne >= lignesFixes && ligne < derniereLigne(); }
 
     [[nodiscard]] const Case &lit(int ligne, int colonne) const { return rangee(ligne).cases[rang(colonne)]; }
-    void ecrit(int ligne, int colonne, const QString &texte);
+    void ecrit(int ligne, int colonne, QString texte);
     void colore(int ligne, int colonne, QRgb fond, QRgb encre);
     void graisse(int ligne, int colonne, bool gras);
 
@@ -82,8 +82,8 @@ public:
     [[nodiscard]] int avantmois(int ligne) const { return rangee(ligne).avantmois; }
     void fixeAvantmois(int ligne, int minutes) { rangee(ligne).avantmois = minutes; }
 
-    /// While drawing is suspended changes are gathered; the outermost resumption tells them: rows, then sizes,
-    /// then cells, those of a row as one run and equal runs of neighbouring rows together.
+    /// While drawing is suspended changes are gathered; the outermost resumption tells them: rows, then
+    /// sizes, then cells, those of a row as one run and equal runs of neighbouring rows together.
     void suspend() { ++m_suspendu; }
     void reprend();
 

@@ -137,6 +137,8 @@ Status SqliteEngine::open(const QString &path, const OpenOptions &options)
     close();
     int flags = options.readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
     if (options.create) flags |= SQLITE_OPEN_CREATE;
+    // A session has one thread, so each call is spared the connection's mutex.
+    flags |= SQLITE_OPEN_NOMUTEX;
     const int result = sqlite3_open_v2(QFile::encodeName(path).constData(), &m_database,
                                        flags | SQLITE_OPEN_EXRESCODE, nullptr);
     Status status = noted(result);
@@ -155,8 +157,11 @@ Status SqliteEngine::configure(const OpenOptions &options)
     if (!status.ok()) return status;
     status = execute(QStringLiteral("PRAGMA synchronous = FULL; PRAGMA foreign_keys = OFF;"
                                     "PRAGMA cache_size = -16000"));
+    // Under this setting the engine reads a file that is shorter than its header says.
+    if (status.ok() && options.damaged) status = execute(QStringLiteral("PRAGMA writable_schema = ON"));
+    // The lock outlives the transaction. A commit would write a header into an empty file.
     if (status.ok() && options.exclusive)
-        status = execute(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE; COMMIT"));
+        status = execute(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE; ROLLBACK"));
     // The first read tells a foreign file from a database.
     if (status.ok()) status = execute(QStringLiteral("SELECT count(*) FROM sqlite_master"));
     return status;

@@ -206,13 +206,13 @@ public:
     [[nodiscard]] Rows<Row> range(const char *indexName, const Key &from, const Key &to,
                                   const std::vector<int> &columns = Columns<Row>::all())
     {
-        Slot &statement =
-            rangeStatement(m_schema.index(QString::fromLatin1(indexName)), from.size(), to.size(), columns);
+        Slot &statement = rangeStatement(m_schema.index(QString::fromLatin1(indexName)), from, to, columns);
         if (!statement) return {nullptr, columns};
         int position = 0;
-        for (const Key *bound : {&from, &to})
-            for (const KeyValue &value : *bound)
-                value.bind(*statement, ++position);
+        for (const KeyValue &value : from)
+            value.bind(*statement, ++position);
+        for (std::size_t part = sharedParts(from, to); part < to.size(); ++part)
+            to[part].bind(*statement, ++position);
         return {statement.get(), columns};
     }
 

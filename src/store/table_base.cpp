@@ -23,11 +23,17 @@ const char *symbol(Cmp comparison)
     return "=";
 }
 
-/// The first columns of an index.
+/// The columns of an index from one place to the one before another.
+std::vector<int> between(const Index &index, std::size_t first, std::size_t end)
+{
+    const auto begin = index.columns.begin();
+    return {begin + static_cast<std::ptrdiff_t>(first),
+            begin + static_cast<std::ptrdiff_t>(std::min(end, index.columns.size()))};
+}
+
 std::vector<int> leading(const Index &index, std::size_t parts)
 {
-    return {index.columns.begin(),
-            index.columns.begin() + static_cast<std::ptrdiff_t>(std::min(parts, index.columns.size()))};
+    return between(index, 0, parts);
 }
 
 std::vector<int> everyColumn(const Schema &schema)
@@ -46,6 +52,12 @@ std::int64_t shortcut(Kind kind, int index = 0, int first = 0, int second = 0)
 }
 
 } // namespace
+
+std::size_t sharedParts(const Key &from, const Key &to)
+{
+    const auto differs = std::mismatch(from.begin(), from.end(), to.begin(), to.end());
+    return static_cast<std::size_t>(differs.first - from.begin());
+}
 
 void KeyValue::bind(Statement &statement, int position) const
 {
@@ -226,23 +238,26 @@ TableBase::Slot &TableBase::endStatement(bool forward)
 
 QString TableBase::rangeSql(const RangeKey &range) const
 {
-    const auto &[ranged, fromParts, toParts, columns] = range;
+    const auto &[ranged, shared, fromParts, toParts, columns] = range;
     const Index &ordered = m_schema.indexes[static_cast<std::size_t>(ranged)];
     QStringList wanted;
     for (const int column : columns)
         wanted << columnName(column, false);
+    // A shared value is said once: the engine then compares only the rest of the key on each row.
     QStringList bounds;
-    if (fromParts > 0) bounds << comparison(leading(ordered, fromParts), ">=", false);
-    if (toParts > 0) bounds << comparison(leading(ordered, toParts), "<=", false);
+    for (const int column : leading(ordered, shared))
+        bounds << columnName(column, false) + QStringLiteral(" = ?");
+    if (fromParts > shared) bounds << comparison(between(ordered, shared, fromParts), ">=", false);
+    if (toParts > shared) bounds << comparison(between(ordered, shared, toParts), "<=", false);
     QString sql = QStringLiteral("SELECT %1 FROM %2").arg(wanted.join(QLatin1Char(',')), m_schema.table);
     if (!bounds.isEmpty()) sql += QStringLiteral(" WHERE ") + bounds.join(QStringLiteral(" AND "));
     return sql + order(ordered, true);
 }
 
-TableBase::Slot &TableBase::rangeStatement(int ranged, std::size_t fromParts, std::size_t toParts,
+TableBase::Slot &TableBase::rangeStatement(int ranged, const Key &from, const Key &to,
                                            const std::vector<int> &columns)
 {
-    const RangeKey key{ranged, fromParts, toParts, columns};
+    const RangeKey key{ranged, sharedParts(from, to), from.size(), to.size(), columns};
     return cached(m_ranges, key, [&] { return rangeSql(key); });
 }
 

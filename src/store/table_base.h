@@ -29,6 +29,7 @@ public:
     KeyValue(QString value) : m_value(std::move(value)) {}
 
     void bind(Statement &statement, int position) const;
+    friend bool operator==(const KeyValue &, const KeyValue &) = default;
 
 private:
     std::variant<std::int64_t, QDate, QString> m_value;
@@ -36,6 +37,9 @@ private:
 
 /// A whole key of an index or its first columns.
 using Key = std::vector<KeyValue>;
+
+/// First values that two keys share.
+[[nodiscard]] std::size_t sharedParts(const Key &from, const Key &to);
 
 /// The part of a table that doesn't depend on its row's type: the current index and the statements, made
 /// once each and kept for the table's life.
@@ -76,7 +80,8 @@ protected:
     [[nodiscard]] Slot &seekStatement(Cmp comparison, std::size_t parts);
     [[nodiscard]] Slot &stepStatement(bool forward);
     [[nodiscard]] Slot &endStatement(bool forward);
-    [[nodiscard]] Slot &rangeStatement(int index, std::size_t fromParts, std::size_t toParts,
+    /// Binds the whole of `from`, then what `to` doesn't share with it.
+    [[nodiscard]] Slot &rangeStatement(int index, const Key &from, const Key &to,
                                        const std::vector<int> &columns);
     [[nodiscard]] Slot &rereadStatement();
     [[nodiscard]] Slot &insertStatement();
@@ -97,7 +102,8 @@ protected:
 
 private:
     /// What tells the passes over runs of rows apart: index, columns of both bounds, columns read.
-    using RangeKey = std::tuple<int, std::size_t, std::size_t, std::vector<int>>;
+    /// Index, first values shared by both bounds, values of each bound, columns.
+    using RangeKey = std::tuple<int, std::size_t, std::size_t, std::size_t, std::vector<int>>;
 
     [[nodiscard]] Slot &prepared(const QString &sql);
     [[nodiscard]] QString rangeSql(const RangeKey &range) const;

@@ -1,0 +1,204 @@
+#include "month/fplan.h"
+
+#include "entry/partielm.h"
+#include "support/workstation.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace velmora::test
+{
+namespace
+{
+
+const QDate june3(2026, 6, 3);
+
+/// An open month on two lines, shown off screen and loaded.
+class FplanTest : public testing::Test
+{
+protected:
+    Workstation station;
+    Session &session = station.session;
+    std::unique_ptr<Fplan> form;
+
+    void SetUp() override
+    {
+        station.addLine(1, QStringLiteral("ANNE"));
+        station.addLine(2, QStringLiteral("BERNARD"), QDate(2026, 5, 1), QDate(2026, 6, 10));
+        station.addDay(1, june3, 480, 1080, 720, 840);
+        station.addDay(2, june3, 1320, 360);
+    }
+
+    void openMonth()
+    {
+        session.moisvue = 6;
+        session.anvue = 2026;
+        form = std::make_unique<Fplan>(session);
+        QSignalSpy ready(form.get(), &MonthView::ready);
+        form->resize(1366, 700);
+        form->show();
+        ASSERT_TRUE(ready.wait(5000));
+        settle();
+    }
+
+    /// Lets the one-shot timers run.
+    static void settle() { QTest::qWait(30); }
+
+    VueGrille *grid() { return form->findChild<VueGrille *>(QStringLiteral("mg")); }
+    Planning &planning() { return form->planning(); }
+    int column(const QDate &date) { return planning().colonnes.colonneDe(date); }
+    QString cell(int nump, const QDate &date)
+    {
+        return planning().grille.lit(planning().grille.ligneDe(nump), column(date)).texte;
+    }
+    QPoint at(int nump, const QDate &date)
+    {
+        const auto index = grid()->modele().index(ModeleGrille::ligneVue(planning().grille.ligneDe(nump)),
+                                                  ModeleGrille::colonneVue(column(date)));
+        grid()->scrollTo(index);
+        return grid()->visualRect(index).center();
+    }
+    void click(int nump, const QDate &date)
+    {
+        QTest::mouseClick(grid()->viewport(), Qt::LeftButton, {}, at(nump, date));
+        settle();
+    }
+    QString status() { return form->findChild<QLabel *>(QStringLiteral("statut"))->text(); }
+
+    /// Acts on the entry dialog that the next event opens.
+    void withDialog(const std::function<void(Partielm &)> &act)
+    {
+        QTimer::singleShot(60, form.get(), [act] {
+            auto *dialog = qobject_cast<Partielm *>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            QTest::qWait(20);
+            act(*dialog);
+        });
+    }
+};
+
+void type(Partielm &dialog, const char *field, const char *text)
+{
+    auto *edit = dialog.findChild<QLineEdit *>(QLatin1String(field));
+    edit->setFocus();
+    QTest::qWait(5);
+    edit->selectAll();
+    QTest::keyClicks(edit, QLatin1String(text));
+}
+
+TEST_F(FplanTest, AClickShowsTheDayAndTheLastRowAndTotalsAreNeverEntered)
+{
+    openMonth();
+    click(1, june3);
+    EXPECT_EQ(status(), QStringLiteral("[Fait: 8h00 ] de 8h00 à 18h00 [Coupe: 12h00 _ 14h00]"));
+    EXPECT_EQ(planning().grille.lit(3, Grille::colonneNom).fond, palette::fondSelection);
+    for (int i = 0; i < 5; ++i)
+        QTest::keyClick(grid(), Qt::Key_Down);
+    settle();
+    EXPECT_EQ(planning().curseur.ligne, 4);
+    click(1, QDate(2026, 6, 7));
+    QTest::keyClick(grid(), Qt::Key_Right);
+    settle();
+    EXPECT_EQ(planning().date(planning().curseur.colonne), QDate(2026, 6, 8));
+    QTest::keyClick(grid(), Qt::Key_Left);
+    settle();
+    EXPECT_EQ(planning().date(planning().curseur.colonne), QDate(2026, 6, 7));
+    QTest::keyClick(grid(), Qt::Key_End);
+    settle();
+    EXPECT_EQ(planning().date(planning().curseur.colonne), planning().periode.fingrille);
+}
+
+TEST_F(FplanTest, OneEntryChangesCellWeekMonthColumnTotalsAndJournal)
+{
+    openMonth();
+    click(1, june3);
+    withDialog([](Partielm &dialog) {
+        QTest::qWait(330);
+        type(dialog, "Text1", "09h00");
+        type(dialog, "Text2", "12h00");
+        QTest::mouseClick(dialog.findChild<QPushButton *>(QStringLiteral("Command1")), Qt::LeftButton);
+    });
+    QTest::mouseDClick(grid()->viewport(), Qt::LeftButton, {}, at(1, june3));
+    settle();
+    EXPECT_TRUE(session.dlgvalide);
+    EXPECT_EQ(cell(1, june3), QStringLiteral("9h00 - 18h00\n[12h00 _ 14h00]"));
+    const int line = planning().grille.ligneDe(1);
+    const int week = column(QDate(2026, 6, 7)) + 1;
+    EXPECT_EQ(planning().grille.lit(line, week).texte, QStringLiteral(" 7h00"));
+    EXPECT_EQ(planning().grille.lit(planning().grille.derniereLigne(), column(june3)).texte,
+              QStringLiteral(" 15h00"));
+    EXPECT_TRUE(planning().commandes.annuler);
+    ASSERT_TRUE(session.journal.logop.seek(store::Cmp::Eq, {1}));
+    EXPECT_EQ(session.journal.logop.row().libop, QStringLiteral("nouvel horaire: ANNE le 03/06/2026"));
+}
+
+TEST_F(FplanTest, TheStarOpensTheEntryAndEscapeWritesNothing)
+{
+    openMonth();
+    click(1, QDate(2026, 6, 4));
+    bool opened = false;
+    withDialog([&opened](Partielm &dialog) {
+        opened = true;
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    QTest::keyClicks(grid(), QStringLiteral("*"));
+    settle();
+    EXPECT_TRUE(opened);
+    EXPECT_FALSE(session.dlgvalide);
+    EXPECT_EQ(session.base.sitper.recordCount(), 2);
+}
+
+TEST_F(FplanTest, AClosedDayOpensNoEntryAndShutsTheCommands)
+{
+    openMonth();
+    click(2, QDate(2026, 6, 11));
+    EXPECT_EQ(cell(2, QDate(2026, 6, 11)), QStringLiteral("////"));
+    EXPECT_FALSE(planning().commandes.absence);
+    QTest::keyClicks(grid(), QStringLiteral("*"));
+    settle();
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_TRUE(planning().suivi);
+}
+
+TEST_F(FplanTest, HundredthsChangeTheTotalsAndCloseEmptiesTheClipboard)
+{
+    openMonth();
+    const int line = planning().grille.ligneDe(1);
+    const int week = column(QDate(2026, 6, 7)) + 1;
+    for (QAction *entry : form->menuBarActions())
+        if (entry->menu())
+            for (QAction *one : entry->menu()->actions())
+                if (one->objectName() == QStringLiteral("mnucent")) one->trigger();
+    EXPECT_EQ(planning().grille.lit(line, week).texte, QLatin1Char(' ') + Foncgen::strn(8, 2));
+    auto &sitco = session.journal.sitco;
+    ASSERT_TRUE(sitco.addNew().ok());
+    ASSERT_TRUE(sitco.update().ok());
+    QSignalSpy closed(form.get(), &MonthView::closed);
+    form->close();
+    EXPECT_EQ(closed.count(), 1);
+    EXPECT_TRUE(sitco.isEmpty());
+    EXPECT_FALSE(session.moisouvert);
+    EXPECT_EQ(session.pagecourante, QStringLiteral("accueil.htm"));
+}
+
+TEST_F(FplanTest, AMonthWithoutLinesSaysSoAndCloses)
+{
+    ASSERT_TRUE(session.base.engine.execute(QStringLiteral("DELETE FROM ligmois")).ok());
+    session.moisvue = 6;
+    session.anvue = 2026;
+    station.host.expectMessage(
+        QStringLiteral("vous devez ouvrir au moins une ligne de planning pour cette période !"));
+    form = std::make_unique<Fplan>(session);
+    QSignalSpy closed(form.get(), &MonthView::closed);
+    form->show();
+    EXPECT_TRUE(closed.wait(2000));
+}
+
+} // namespace
+} // namespace velmora::test
