@@ -180,9 +180,14 @@ bool LigneCommande::version() const
     return arguments.a("version");
 }
 
+bool LigneCommande::demandeFenetre() const
+{
+    return erreur.isEmpty() && !commande && !aide() && !version();
+}
+
 bool LigneCommande::dessine() const
 {
-    return arguments.a("png");
+    return erreur.isEmpty() && !aide() && arguments.a("png");
 }
 
 LigneCommande analyse(const QStringList &ligne)

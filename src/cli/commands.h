@@ -64,6 +64,8 @@ struct LigneCommande {
 
     [[nodiscard]] bool aide() const;
     [[nodiscard]] bool version() const;
+    /// Whether the window is asked for.
+    [[nodiscard]] bool demandeFenetre() const;
     /// Whether the command draws, and so needs the window library.
     [[nodiscard]] bool dessine() const;
 };

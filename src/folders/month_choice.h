@@ -63,6 +63,7 @@ public:
     /// True when the click chose a row anew.
     bool clic(QList<bool> choisies);
 
+    [[nodiscard]] const QStringList &lignes() const { return m_lignes; }
     [[nodiscard]] int selligne() const { return m_selligne; }
     [[nodiscard]] const QString &texte() const { return m_lignes.at(m_selligne); }
     /// The folder that filters the lines; empty for "Global".

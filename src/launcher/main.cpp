@@ -1,6 +1,8 @@
 #include "cli/commands.h"
+#include "launcher/picture.h"
+#include "launcher/window.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QLoggingCategory>
 
 #include <clocale>
@@ -9,6 +11,11 @@
 
 namespace
 {
+
+using namespace velmora;
+
+// What the engine says of a failure is for whoever asks for it with QT_LOGGING_RULES.
+constexpr const char *reglesJournal = "velmora.*=false";
 
 /// Texts are UTF-8, also on a machine whose locale says otherwise.
 void assureUtf8()
@@ -27,15 +34,47 @@ QStringList motsDe(int argc, char **argv)
     return mots;
 }
 
+bool sansEcran()
+{
+    return qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
+           qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
+int fenetre(const cli::LigneCommande &ligne, int argc, char **argv)
+{
+    if (sansEcran()) {
+        return cli::refus(QStringLiteral("Pas d'écran : la fenêtre ne peut pas s'ouvrir. « velmora --aide » "
+                                         "montre les commandes qui s'en passent."));
+    }
+    const QApplication application(argc, argv);
+    return ouvreFenetre(ligne.poste);
+}
+
+/// A picture is drawn off screen, whatever the display.
+int dessin(const cli::LigneCommande &ligne, int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The off-screen platform says what it lacks; nobody here misses it.
+    QLoggingCategory::setFilterRules(QLatin1String(reglesJournal) +
+                                     QStringLiteral("\ndefault.warning=false"));
+    const QApplication application(argc, argv);
+    return cli::execute(ligne, peintMois);
+}
+
+/// Texts need no window library started, so that a command answers at once.
+int texte(const cli::LigneCommande &ligne, int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    return cli::execute(ligne, {});
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
-    using namespace velmora;
     assureUtf8();
-    // What the engine says of a failure is for whoever asks for it with QT_LOGGING_RULES.
-    QLoggingCategory::setFilterRules(QStringLiteral("velmora.*=false"));
+    QLoggingCategory::setFilterRules(QLatin1String(reglesJournal));
     const cli::LigneCommande ligne = cli::analyse(motsDe(argc, argv));
-    const QCoreApplication application(argc, argv);
-    return cli::execute(ligne, {});
+    if (ligne.demandeFenetre()) return fenetre(ligne, argc, argv);
+    return ligne.dessine() ? dessin(ligne, argc, argv) : texte(ligne, argc, argv);
 }

@@ -63,6 +63,8 @@ Fplan::Fplan(Session &session, QWidget *parent)
 Fplan::~Fplan()
 {
     ferme();
+    // The view reads the planning to its last event.
+    delete m_mg;
 }
 
 void Fplan::construit()

@@ -65,7 +65,7 @@ QSize EnteteJours::sizeHint() const
     int hauteur = 0;
     for (int rangee = 0; rangee < Grille::lignesFixes; ++rangee)
         hauteur += hauteurRangee(rangee);
-    return {QHeaderView::sizeHint().width(), hauteur};
+    return {defaultSectionSize(), hauteur};
 }
 
 void EnteteJours::paintEvent(QPaintEvent *)
@@ -124,7 +124,7 @@ QSize EnteteLignes::sizeHint() const
         grille.colonnes() < Grille::colonnesFixes
             ? 0
             : pixels(grille.largeur(Grille::colonneNom) + grille.largeur(Grille::colonneEtat), *this);
-    return {largeur, QHeaderView::sizeHint().height()};
+    return {largeur, defaultSectionSize()};
 }
 
 void EnteteLignes::paintSection(QPainter *painter, const QRect &rect, int section) const

@@ -158,7 +158,9 @@ bool ouvrejournal(Session &session)
                                    QStringLiteral(" non retrouvée ! relancer Velmora"));
     }
     if (!session.journal.open(fichier).ok()) return reparelog(session);
-    return ouvreLiaison(session) == Liaison::Etablie;
+    const Liaison liaison = ouvreLiaison(session);
+    if (liaison == Liaison::Echec) session.journal.close();
+    return liaison == Liaison::Etablie;
 }
 
 bool ouvrebase(Session &session)

@@ -52,7 +52,8 @@ QDate QtHost::today() const
 
 QDateTime QtHost::now() const
 {
-    return {today(), QTime::currentTime()};
+    const QDateTime machine = QDateTime::currentDateTime();
+    return {m_options.today.value_or(machine.date()), machine.time()};
 }
 
 void QtHost::open(const QString &target)

@@ -101,8 +101,8 @@ void JournalDatabase::close()
 
 Status createTables(Engine &engine, FileKind kind)
 {
-    QStringList sql{QStringLiteral("PRAGMA application_id = %1").arg(static_cast<int>(kind)),
-                    QStringLiteral("BEGIN IMMEDIATE")};
+    QStringList sql{QStringLiteral("BEGIN IMMEDIATE"),
+                    QStringLiteral("PRAGMA application_id = %1").arg(static_cast<int>(kind))};
     const auto schemas = kind == FileKind::Main ? MainDatabase::schemas() : JournalDatabase::schemas();
     for (const Schema *schema : schemas)
         sql << schema->creation();

@@ -46,6 +46,7 @@ public:
 struct OpenOptions {
     bool create = false;    ///< make the file when it is missing
     bool readOnly = false;  ///< open without the right to write
+    bool damaged = false;   ///< read what can be read of a file whose structure is broken
     bool exclusive = false; ///< keep the file to this session from the opening on
     /// How long an operation waits for another session's lock before it fails as busy.
     std::chrono::milliseconds busyWait{5000};

@@ -93,7 +93,7 @@ TEST_F(DemoData, StoresTheWorkedMinutesThatTheGridComputes)
     int count = 0;
     while (days.next()) {
         ++count;
-        ASSERT_EQ(horaireDuJour(days.row()).minutes(), days.row().heurtrav) << days.row().nump;
+        ASSERT_EQ(horaireDuJour(days.row()).minutes, days.row().heurtrav) << days.row().nump;
     }
     EXPECT_GT(count, 16 * 30);
 }

@@ -16,7 +16,7 @@ struct Commands : testing::Test {
 };
 
 /// The text of a cell by the row's first column and the column's header.
-QString cell(const Run &month, const QString &name, const QString &label, const QString &header)
+QString cell(const Outcome &month, const QString &name, const QString &label, const QString &header)
 {
     const QStringList lines = month.lines();
     const QStringList months = lines.value(0).split(QLatin1Char('\t'));
@@ -36,7 +36,7 @@ TEST_F(Commands, ShowAnEntryInTheMonthTheStatusAndTheRing)
 {
     const QString name = queryOne(program.base(), "SELECT nom FROM ligmois WHERE nump = 3");
     ASSERT_EQ(program({"saisie", "3", "01/06/2026", "05/06/2026", "8h00-12h00", "14h00-18h00"}).status, 0);
-    const Run month = program({"mois", "6/2026"});
+    const Outcome month = program({"mois", "6/2026"});
     ASSERT_EQ(month.status, 0) << month.err.toStdString();
     EXPECT_EQ(month.lines().size(), 3 + 16 + 1);
     for (const char *day : {"L01", "M02", "M03", "J04", "V05"})
@@ -83,7 +83,7 @@ TEST_F(Commands, RefuseBadInputWithTheReasonAndChangeNothing)
     };
     const QByteArray before = program.fingerprint();
     for (const auto &[words, reason] : refusals) {
-        const Run run = program(words);
+        const Outcome run = program(words);
         EXPECT_EQ(run.status, 1) << words.join(u' ').left(100).toStdString();
         EXPECT_TRUE(run.err.contains(reason)) << run.err.left(200).toStdString();
         EXPECT_EQ(run.errorLines().size(), 1) << run.err.left(200).toStdString();
@@ -97,7 +97,7 @@ TEST_F(Commands, RefuseADateOutsideTheLinesPeriod)
     // Line 12 ends within the months of the example.
     const QString last = queryOne(program.base(), "SELECT datefin FROM ligmois WHERE nump = 12");
     const QDate after = QDate::fromString(last, Qt::ISODate).addDays(1);
-    const Run run = program({"saisie", "12", after.toString("dd/MM/yyyy"), "8h-9h"});
+    const Outcome run = program({"saisie", "12", after.toString("dd/MM/yyyy"), "8h-9h"});
     EXPECT_EQ(run.status, 1);
     EXPECT_TRUE(run.err.contains(QStringLiteral("La ligne n'est ouverte que du"))) << run.err.toStdString();
 }
@@ -107,7 +107,7 @@ TEST_F(Commands, FilterTheMonthByFolderAndShowHundredths)
     const int members = queryOne(program.base(), "SELECT count(*) FROM groupe JOIN ligmois USING (nump) "
                                                  "WHERE groupe = 'NUIT'")
                             .toInt();
-    const Run night = program({"mois", "6/2026", "--dossier", "NUIT", "--cellules", "0", "--centiemes"});
+    const Outcome night = program({"mois", "6/2026", "--dossier", "NUIT", "--cellules", "0", "--centiemes"});
     EXPECT_EQ(night.status, 0) << night.err.toStdString();
     EXPECT_EQ(night.lines().size(), 3 + members + 1);
     const QString total = night.lines().last().split(QLatin1Char('\t')).last();

@@ -8,7 +8,7 @@ namespace
 
 /// A folder of a shared base and a folder for each of two workstations.
 struct SharedBase : testing::Test {
-    [[nodiscard]] Run on(const QString &post, const QStringList &words) const
+    [[nodiscard]] Outcome on(const QString &post, const QStringList &words) const
     {
         return program.run(
             words, {"--journal", program.path(post), "--base", program.path("base"), "--pseudo", "MARIE"});
@@ -25,7 +25,7 @@ TEST(Init, MakesBothFilesWithOneRowPerUser)
     EXPECT_EQ(query(program.base(), "SELECT pseudo, nom FROM agent", 2),
               QStringList({"A|Anne", "B|Le: Bon"}));
     EXPECT_EQ(program({"journal"}).err.trimmed(), QStringLiteral("Mot de passe non accepté :"));
-    const Run ring = program.run({"journal", "--pseudo", "B"}, {"--journal", program.folder()});
+    const Outcome ring = program.run({"journal", "--pseudo", "B"}, {"--journal", program.folder()});
     EXPECT_EQ(ring.status, 0);
     EXPECT_EQ(ring.lines().size(), 31);
 }
@@ -36,7 +36,7 @@ TEST(Init, LeavesFilesThatAreThereAlone)
     ASSERT_EQ(program({"init"}).status, 0);
     const QByteArray before = program.fingerprint();
     for (const QStringList &words : {QStringList{"init"}, QStringList{"demo"}}) {
-        const Run again = program(words);
+        const Outcome again = program(words);
         EXPECT_EQ(again.status, 1);
         EXPECT_TRUE(again.err.contains(QStringLiteral("sont déjà là"))) << again.err.toStdString();
     }
@@ -66,7 +66,8 @@ TEST(Init, KeepsHostileNamesAsTheyAre)
         ASSERT_EQ(program({"init", "--utilisateur", QStringLiteral("P") + name + ':' + name}).status, 0);
         EXPECT_EQ(query(program.base(), "SELECT pseudo, nom FROM agent", 2),
                   QStringList(QStringLiteral("P") + name + '|' + name));
-        const Run ring = program.run({"journal", "--pseudo", "P" + name}, {"--journal", program.folder()});
+        const Outcome ring =
+            program.run({"journal", "--pseudo", "P" + name}, {"--journal", program.folder()});
         EXPECT_EQ(ring.status, 0) << ring.err.toStdString();
     }
 }
@@ -74,7 +75,7 @@ TEST(Init, KeepsHostileNamesAsTheyAre)
 TEST_F(SharedBase, IsJoinedByTwoWorkstations)
 {
     for (const QString &post : {QStringLiteral("un"), QStringLiteral("deux")}) {
-        const Run made = on(post, {"init"});
+        const Outcome made = on(post, {"init"});
         ASSERT_EQ(made.status, 0) << made.err.toStdString();
         EXPECT_EQ(QFile::symLinkTarget(program.path(post + "/velmora.mdb")),
                   program.path("base/velmora.mdb"));
@@ -99,7 +100,7 @@ TEST_F(SharedBase, IsNotMixedUpWithAWorkstationsOwnBase)
 {
     ASSERT_EQ(program.run({"init"}, {"--journal", program.path("un"), "--pseudo", "MARIE"}).status, 0);
     const QByteArray before = program.fingerprint();
-    const Run refused = on("un", {"init"});
+    const Outcome refused = on("un", {"init"});
     EXPECT_EQ(refused.status, 1);
     EXPECT_EQ(refused.errorLines().size(), 1);
     EXPECT_FALSE(QFile::exists(program.path("base")));
@@ -109,7 +110,7 @@ TEST_F(SharedBase, IsNotMixedUpWithAWorkstationsOwnBase)
 TEST_F(SharedBase, TakesBackWhatItMadeWhenItFailsHalfway)
 {
     writeFile(program.path("base"), "a file where the folder should be");
-    const Run failed = on("un/poste", {"init"});
+    const Outcome failed = on("un/poste", {"init"});
     EXPECT_EQ(failed.status, 1);
     EXPECT_TRUE(failed.err.contains(QStringLiteral("ne peut pas être créé"))) << failed.err.toStdString();
     EXPECT_EQ(QDir(program.folder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
@@ -122,7 +123,7 @@ TEST(Init, RefusesAForeignFileInItsPlace)
         const Program program;
         writeFile(program.base(), content);
         const QByteArray before = program.fingerprint();
-        const Run run = program({"init"});
+        const Outcome run = program({"init"});
         EXPECT_EQ(run.status, 1);
         EXPECT_EQ(run.errorLines().size(), 1) << run.err.toStdString();
         EXPECT_EQ(program.fingerprint(), before);

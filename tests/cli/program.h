@@ -14,7 +14,7 @@ namespace velmora::test
 {
 
 /// What a run of the program gave back.
-struct Run {
+struct Outcome {
     int status = -1;
     QString out;
     QString err;
@@ -27,7 +27,7 @@ struct Run {
 class Program
 {
 public:
-    Run run(const QStringList &words, const QStringList &options) const
+    Outcome run(const QStringList &words, const QStringList &options) const
     {
         QProcess process;
         auto environment = QProcessEnvironment::systemEnvironment();
@@ -43,7 +43,7 @@ public:
     }
 
     /// With the options of a workstation whose journal and base lie in the program's folder.
-    Run operator()(const QStringList &words) const { return run(words, options()); }
+    Outcome operator()(const QStringList &words) const { return run(words, options()); }
     [[nodiscard]] QStringList options() const
     {
         return {QStringLiteral("--journal"),    folder(),
@@ -55,7 +55,7 @@ public:
     {
         const QStringList words{QStringLiteral("demo"), QStringLiteral("--lignes"), QStringLiteral("16"),
                                 QStringLiteral("--mois"), QStringLiteral("3")};
-        const Run made = (*this)(words + more);
+        const Outcome made = (*this)(words + more);
         ASSERT_EQ(made.status, 0) << made.err.toStdString();
     }
 

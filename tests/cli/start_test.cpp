@@ -54,7 +54,7 @@ TEST(CommandStart, TellsWhyNothingOpensAndChangesNothing)
         ASSERT_EQ(program({"journal"}).status, 0);
         fault.make(program);
         const QByteArray before = program.fingerprint();
-        const Run run = program({"mois", "6/2026"});
+        const Outcome run = program({"mois", "6/2026"});
         EXPECT_EQ(run.status, 1) << fault.name;
         EXPECT_TRUE(run.out.isEmpty()) << fault.name;
         EXPECT_EQ(run.errorLines().size(), 1) << fault.name << run.err.toStdString();
@@ -67,7 +67,7 @@ TEST(CommandStart, RefusesAUserWhoseCaseDiffers)
 {
     const Program program;
     ASSERT_EQ(program({"init", "--utilisateur", "Marie:Marie"}).status, 0);
-    const Run run = program({"journal"});
+    const Outcome run = program({"journal"});
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.err.trimmed(), QStringLiteral("Mot de passe non accepté :"));
 }

@@ -32,7 +32,7 @@ TEST(CommandLine, RefusesWrongUsageWithStatus2AndMakesNothing)
     const QByteArray before = program.fingerprint();
     for (const QStringList &words : lines) {
         const QStringList folder{"--journal", program.folder()};
-        const Run run = program.run(words, folder);
+        const Outcome run = program.run(words, folder);
         EXPECT_EQ(run.status, 2) << words.join(u' ').toStdString();
         EXPECT_FALSE(run.err.isEmpty()) << words.join(u' ').toStdString();
         EXPECT_TRUE(run.out.isEmpty()) << words.join(u' ').toStdString();
@@ -45,9 +45,9 @@ TEST(CommandLine, TakesOptionsBeforeAndAfterTheCommand)
     const Program program;
     program.demo();
     const QString folder = program.folder();
-    const Run before = program.run(
+    const Outcome before = program.run(
         {"--pseudo", "MARIE", "--journal=" + folder, "mois", "6/2026", "--aujourdhui", "15/06/2026"}, {});
-    const Run after = program({"mois", "6/2026"});
+    const Outcome after = program({"mois", "6/2026"});
     EXPECT_EQ(before.status, 0) << before.err.toStdString();
     EXPECT_EQ(before.out, after.out);
 }
@@ -55,7 +55,7 @@ TEST(CommandLine, TakesOptionsBeforeAndAfterTheCommand)
 TEST(CommandLine, TellsEveryCommandInTheHelp)
 {
     const Program program;
-    const Run run = program.run({"--aide"}, {});
+    const Outcome run = program.run({"--aide"}, {});
     EXPECT_EQ(run.status, 0);
     for (const char *command : {"init", "demo", "mois", "statut", "saisie", "journal"})
         EXPECT_TRUE(run.out.contains(QStringLiteral("velmora ") + QLatin1String(command))) << command;
@@ -65,7 +65,7 @@ TEST(CommandLine, SpeaksUtf8InAnyLocale)
 {
     qputenv("LC_ALL", "C");
     const Program program;
-    const Run run = program.run({"mois", "été"}, {"--journal", program.path(QStringLiteral("été"))});
+    const Outcome run = program.run({"mois", "été"}, {"--journal", program.path(QStringLiteral("été"))});
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.errorLines().size(), 1) << run.err.toStdString();
     EXPECT_TRUE(run.err.contains(QStringLiteral("/été/"))) << run.err.toStdString();

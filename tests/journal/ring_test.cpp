@@ -58,11 +58,6 @@ protected:
     store::Table<Operation> &logop = session.journal.logop;
     RingModel model;
 
-    void SetUp() override
-    {
-        ASSERT_TRUE(session.journal.engine.execute(QStringLiteral("PRAGMA synchronous = OFF")).ok());
-    }
-
     Operation row(int numop)
     {
         EXPECT_TRUE(logop.seek(store::Cmp::Eq, {numop}));

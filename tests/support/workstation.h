@@ -48,6 +48,11 @@ public:
         jour.heurfin = heurfin;
         jour.hideb = hideb;
         jour.hifin = hifin;
+        const bool coupe = hideb != hifin;
+        jour.hdeb1 = heurdeb;
+        jour.hfin1 = coupe ? hideb : heurfin;
+        jour.hdeb2 = coupe ? hifin : 0;
+        jour.hfin2 = coupe ? heurfin : 0;
         ASSERT_TRUE(sitper.update().ok());
     }
 
@@ -92,6 +97,9 @@ private:
         session.datemax = datemax(host.today());
         ASSERT_TRUE(ouvrejournal(session));
         ASSERT_TRUE(ouvrebase(session));
+        // A test's files needn't outlive the machine's power.
+        for (store::Engine *engine : {&session.base.engine, &session.journal.engine})
+            ASSERT_TRUE(engine->execute(QStringLiteral("PRAGMA synchronous = OFF")).ok());
         auto &agent = session.base.agent;
         ASSERT_TRUE(agent.addNew().ok());
         agent.values().pseudo = QStringLiteral("MARIE");

@@ -1,0 +1,237 @@
+#include "folders/smois.h"
+
+#include "session/help.h"
+#include "workstation/controls.h"
+
+#include <QBoxLayout>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QRadioButton>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QShortcut>
+
+namespace velmora
+{
+
+namespace
+{
+
+constexpr int moisParPage = 12;
+constexpr int lettresDossier = 32;
+
+QLineEdit *affichage(QWidget *parent, const char *nom, const QString &accessible, int chiffres)
+{
+    auto *const texte = nomme(new QLineEdit(parent), nom);
+    texte->setReadOnly(true);
+    texte->setFocusPolicy(Qt::NoFocus);
+    texte->setAlignment(Qt::AlignCenter);
+    texte->setAccessibleName(accessible);
+    texte->setMaximumWidth(texte->fontMetrics().horizontalAdvance(QString(chiffres + 4, QLatin1Char('0'))));
+    return texte;
+}
+
+} // namespace
+
+Smois::Smois(Session &session, QWidget *parent)
+    : QDialog(parent), m_session(session), m_echelle(session.datemin, session.datemax),
+      m_choix(lignesDossiers(session))
+{
+    m_session.dlgvalide = false;
+    construit();
+    construitOptions();
+    dispose();
+    ouvre();
+    relie();
+    m_pret = true;
+}
+
+void Smois::construit()
+{
+    setObjectName(QStringLiteral("Smois"));
+    setWindowTitle(QStringLiteral("Critères affichage mois"));
+    m_label2 = etiquette(this, "Label2", QStringLiteral("Dossier à sélectionner :"));
+    m_list1 = nomme(new QListWidget(this), "List1");
+    m_list1->setSelectionMode(QAbstractItemView::MultiSelection);
+    m_list1->setAccessibleName(m_label2->text());
+    m_label2->setBuddy(m_list1);
+    m_label3 = etiquette(this, "Label3", m_choix.texte());
+    m_frame2 = nomme(new QGroupBox(QStringLiteral("Mois à afficher"), this), "Frame2");
+    m_text1 = affichage(m_frame2, "Text1", QStringLiteral("Mois"), 2);
+    m_label1 = etiquette(m_frame2, "Label1", QStringLiteral("/"));
+    m_text2 = affichage(m_frame2, "Text2", QStringLiteral("Année"), 4);
+    m_vs1 = nomme(new QScrollBar(Qt::Horizontal, m_frame2), "VS1");
+    m_vs1->setFocusPolicy(Qt::StrongFocus);
+    m_vs1->setPageStep(moisParPage);
+    // A lying bar would else go to the left on the key to the right.
+    m_vs1->setInvertedControls(false);
+    m_vs1->setAccessibleName(m_frame2->title());
+    m_command1 = bouton(this, "Command1", QStringLiteral("OK"));
+    m_command2 = bouton(this, "Command2", QStringLiteral("Annuler"));
+    m_command3 = bouton(this, "Command3", QStringLiteral("?"));
+}
+
+void Smois::construitOptions()
+{
+    m_frame3 = nomme(new QGroupBox(QStringLiteral("Contenu des cellules"), this), "Frame3");
+    const std::array<QString, 3> captions{
+        QStringLiteral("Horaire   ex: 8h20 - 21h30  [14h00-18h00]"),
+        QStringLiteral("Heures faites- à faire    Exemple 9h10"),
+        QStringLiteral("Tranches horaires ex: 8h20 - 14h00  18h00-21h30"),
+    };
+    for (std::size_t i = 0; i < captions.size(); ++i) {
+        m_option1[i] = new QRadioButton(captions[i], m_frame3);
+        m_option1[i]->setObjectName(QStringLiteral("Option1_%1").arg(i));
+    }
+}
+
+void Smois::dispose()
+{
+    auto *const options = new QVBoxLayout(m_frame3);
+    for (auto *option : m_option1)
+        options->addWidget(option);
+    auto *const droite = new QVBoxLayout;
+    m_frame2->setLayout(disposeMois());
+    droite->addWidget(m_frame2);
+    droite->addWidget(m_frame3);
+    droite->addStretch();
+    auto *const milieu = new QHBoxLayout;
+    milieu->setSpacing(18);
+    milieu->addLayout(disposeDossiers(), 1);
+    milieu->addLayout(droite);
+    auto *const page = new QVBoxLayout(this);
+    page->setSpacing(14);
+    page->setContentsMargins(18, 16, 18, 14);
+    page->addLayout(milieu, 1);
+    page->addLayout(disposeCommandes());
+}
+
+QLayout *Smois::disposeDossiers()
+{
+    QFont gras = m_label3->font();
+    gras.setBold(true);
+    m_label3->setFont(gras);
+    m_label3->setTextFormat(Qt::PlainText);
+    m_list1->setSpacing(fontMetrics().height() / 8);
+    m_list1->setMinimumWidth(fontMetrics().averageCharWidth() * lettresDossier);
+    auto *const colonne = new QVBoxLayout;
+    colonne->setSpacing(fontMetrics().height() / 2);
+    colonne->addWidget(m_label2);
+    colonne->addWidget(m_list1, 1);
+    colonne->addWidget(m_label3);
+    return colonne;
+}
+
+QLayout *Smois::disposeMois()
+{
+    auto *const date = new QHBoxLayout;
+    date->addStretch();
+    date->addWidget(m_text1);
+    date->addWidget(m_label1);
+    date->addWidget(m_text2);
+    date->addStretch();
+    auto *const colonne = new QVBoxLayout;
+    colonne->addLayout(date);
+    colonne->addWidget(m_vs1);
+    return colonne;
+}
+
+QLayout *Smois::disposeCommandes()
+{
+    m_command1->setDefault(true);
+    m_command2->setAutoDefault(false);
+    m_command3->setAutoDefault(false);
+    m_command3->setToolTip(QStringLiteral("Aide"));
+    m_command3->setAccessibleName(m_command3->toolTip());
+    auto *const ligne = new QHBoxLayout;
+    ligne->addWidget(m_command3);
+    ligne->addStretch();
+    ligne->addWidget(m_command1);
+    ligne->addWidget(m_command2);
+    return ligne;
+}
+
+void Smois::relie()
+{
+    connect(m_vs1, &QScrollBar::valueChanged, this, &Smois::vs1Change);
+    connect(m_list1, &QListWidget::itemSelectionChanged, this, &Smois::list1Click);
+    connect(m_command1, &QPushButton::clicked, this, &Smois::accept);
+    connect(m_command2, &QPushButton::clicked, this, &Smois::reject);
+    connect(m_command3, &QPushButton::clicked, this,
+            [this] { ouvreaide(m_session, QStringLiteral("acces-planning.htm")); });
+    auto *const f1 = new QShortcut(QKeySequence::HelpContents, this);
+    connect(f1, &QShortcut::activated, m_command3, &QPushButton::click);
+}
+
+void Smois::ouvre()
+{
+    m_list1->addItems(m_choix.lignes());
+    selectionne(m_choix.selligne());
+    m_option1[static_cast<std::size_t>(optionDuMode(m_session.modecellule))]->setChecked(true);
+    m_vs1->setRange(m_echelle.minimum(), m_echelle.maximum());
+    const MoisAn depart = moisDeDepart(m_session);
+    m_session.moisvue = depart.mois;
+    m_session.anvue = depart.an;
+    if (m_session.choixmoisdebut == 1) m_frame2->setTitle(QStringLiteral("Mois / An début"));
+    m_vs1->setValue(m_echelle.position(depart));
+    montreMois();
+    m_vs1->setFocus();
+}
+
+void Smois::montreMois()
+{
+    m_text1->setText(nombreAvecBlanc(m_session.moisvue));
+    m_text2->setText(nombreAvecBlanc(m_session.anvue));
+}
+
+void Smois::vs1Change(int position)
+{
+    if (!m_pret) return;
+    const MoisAn choix = m_echelle.mois(position);
+    m_session.moisvue = choix.mois;
+    m_session.anvue = choix.an;
+    montreMois();
+}
+
+void Smois::list1Click()
+{
+    if (!m_pret) return;
+    const QScopedValueRollback enCours(m_pret, false);
+    if (m_choix.clic(lignesChoisies())) {
+        m_label3->setText(m_choix.texte());
+        m_session.dossiervue = m_choix.dossier();
+    }
+    selectionne(m_choix.selligne());
+}
+
+void Smois::selectionne(int ligne)
+{
+    m_list1->clearSelection();
+    m_list1->item(ligne)->setSelected(true);
+}
+
+QList<bool> Smois::lignesChoisies() const
+{
+    QList<bool> choisies;
+    for (int ligne = 0; ligne < m_list1->count(); ++ligne)
+        choisies << m_list1->item(ligne)->isSelected();
+    return choisies;
+}
+
+void Smois::accept()
+{
+    for (int option = 0; option < int(m_option1.size()); ++option)
+        if (m_option1[static_cast<std::size_t>(option)]->isChecked())
+            m_session.modecellule = modeDeLOption(option);
+    m_session.dlgvalide = true;
+    QDialog::accept();
+}
+
+void Smois::reject()
+{
+    m_session.dlgvalide = false;
+    QDialog::reject();
+}
+
+} // namespace velmora

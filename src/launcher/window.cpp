@@ -1,0 +1,73 @@
+#include "launcher/window.h"
+
+#include "cli/start.h"
+#include "month/fplan.h"
+#include "session/qt_host.h"
+#include "session/velmoral.h"
+
+#include <QApplication>
+
+namespace velmora
+{
+
+namespace
+{
+
+/// The desktop's host, which also gives a reason when the start ends without a word.
+class HoteFenetre : public QtHost
+{
+public:
+    using QtHost::QtHost;
+
+    void message(const QString &text, const QString &title) override
+    {
+        m_dit = true;
+        QtHost::message(text, title);
+    }
+    [[nodiscard]] bool question(const QString &text, const QString &title) override
+    {
+        m_dit = true;
+        return QtHost::question(text, title);
+    }
+    [[noreturn]] void endProcess() override
+    {
+        if (!m_dit && siMuette) cli::imprimeErreur(siMuette());
+        QtHost::endProcess();
+    }
+
+    std::function<QString()> siMuette;
+
+private:
+    bool m_dit = false;
+};
+
+} // namespace
+
+MonthView *nouveauMois(Session &session, QWidget *parent)
+{
+    return new Fplan(session, parent);
+}
+
+std::unique_ptr<Mdivel> fenetrePrincipale(Session &session)
+{
+    Ouvertures ouvertures;
+    ouvertures.mois = nouveauMois;
+    return std::make_unique<Mdivel>(session, ouvertures);
+}
+
+int ouvreFenetre(const cli::Poste &poste)
+{
+    HoteFenetre host({poste.aujourdhui, poste.reponse});
+    std::unique_ptr<Mdivel> fenetre;
+    Velmoral velmoral(host, Velmoral::Demarrage::ParLanceur, [&fenetre](Session &session) {
+        fenetre = fenetrePrincipale(session);
+        fenetre->charge();
+        fenetre->show();
+    });
+    host.siMuette = [&velmoral] { return cli::causeArret(velmoral.session().cheminjournal); };
+    velmoral.ini(poste.pseudo, poste.journal, poste.base);
+    host.siMuette = {};
+    return velmoral.demarree() ? QApplication::exec() : cli::refuse;
+}
+
+} // namespace velmora

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+
+namespace velmora
+{
+
+/// Gives a control the name that tests and accessibility tools find it by.
+template <class Widget> Widget *nomme(Widget *widget, const char *nom)
+{
+    widget->setObjectName(QLatin1String(nom));
+    return widget;
+}
+
+/// A label and a button under their names.
+inline QLabel *etiquette(QWidget *parent, const char *nom, const QString &texte)
+{
+    return nomme(new QLabel(texte, parent), nom);
+}
+
+inline QPushButton *bouton(QWidget *parent, const char *nom, const QString &texte)
+{
+    return nomme(new QPushButton(texte, parent), nom);
+}
+
+} // namespace velmora
