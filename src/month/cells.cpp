@@ -11,6 +11,8 @@ namespace
 
 constexpr int largeurDuree = 7;
 constexpr qsizetype longueurLigne = 16;
+// Texts kept for sharing; past that they start anew.
+constexpr qsizetype plusDeTextes = 4096;
 
 /// Writes a start and an end on a cell's text, built in one piece since a month has a hundred thousand of
 /// them.
@@ -135,6 +137,15 @@ QString texteHoraire(const Horaire &horaire, int modecellule)
 {
     if (modecellule == HeuresFaites) return Foncgen::fwhl(horaire.minutes, largeurDuree);
     return modecellule == TranchesJour ? texteTranches(horaire) : texteCoupes(horaire);
+}
+
+QString TextesHoraire::texte(const Horaire &horaire, int modecellule)
+{
+    const Cle cle{{horaire.heurdeb, horaire.heurfin, horaire.hideb, horaire.hifin, horaire.hideb2,
+                   horaire.hifin2, modecellule}};
+    if (const auto connu = m_textes.constFind(cle); connu != m_textes.constEnd()) return *connu;
+    if (m_textes.size() >= plusDeTextes) m_textes.clear();
+    return *m_textes.insert(cle, texteHoraire(horaire, modecellule));
 }
 
 bool troisLignes(const Horaire &horaire, int modecellule)

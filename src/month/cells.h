@@ -3,6 +3,10 @@
 #include "session/day_hours.h"
 #include "session/session.h"
 
+#include <QHash>
+
+#include <array>
+
 namespace velmora
 {
 
@@ -11,6 +15,25 @@ enum ModeCellule { HeuresFaites = 0, HoraireJour = 1, TranchesJour = 2 };
 
 /// The text of a day cell, of one to three lines.
 [[nodiscard]] QString texteHoraire(const Horaire &horaire, int modecellule);
+
+/// The texts of day cells, each built once and then shared: schedules repeat from day to day and from line to
+/// line.
+class TextesHoraire
+{
+public:
+    [[nodiscard]] QString texte(const Horaire &horaire, int modecellule);
+
+private:
+    struct Cle {
+        std::array<int, 7> valeurs; ///< the six times and the mode
+        friend bool operator==(const Cle &, const Cle &) = default;
+        friend size_t qHash(const Cle &cle, size_t seed)
+        {
+            return qHashBits(cle.valeurs.data(), sizeof cle.valeurs, seed);
+        }
+    };
+    QHash<Cle, QString> m_textes;
+};
 
 /// Lines that the text takes in the mode: only a day with a second cut has three.
 [[nodiscard]] bool troisLignes(const Horaire &horaire, int modecellule);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "month/cells.h"
 #include "month/columns.h"
 #include "month/commands.h"
 #include "month/grid.h"
@@ -40,6 +41,7 @@ struct Planning {
     Colonnes colonnes;
     Grille grille;
     Mesures mesures;
+    TextesHoraire textes; ///< texts of the day cells, shared between them
 
     bool suivi = false; ///< the grid reacts; false while it is loaded or changed by the program
     Place curseur{Grille::lignesFixes, Grille::colonnesFixes};

@@ -100,7 +100,7 @@ private:
         const int mode = m_planning.session.modecellule;
         coloreCase(m_planning, {m_rangee, colonne},
                    m_planning.colonnes.fondjour[static_cast<std::size_t>(colonne)], palette::encre);
-        m_grille.ecrit(m_rangee, colonne, texteHoraire(horaire, mode));
+        m_grille.ecrit(m_rangee, colonne, m_planning.textes.texte(horaire, mode));
         // A row once made higher keeps its height, whatever it is filled with later. Wanted.
         if (troisLignes(horaire, mode))
             m_grille.fixeHauteur(m_rangee, (m_planning.mesures.hautligne * 3 + 1) / 2);

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QFile>
+#include <QFileInfo>
 #include <QLoggingCategory>
 
 #include <sqlite3.h>
@@ -135,6 +136,10 @@ Status SqliteEngine::noted(int result) const
 Status SqliteEngine::open(const QString &path, const OpenOptions &options)
 {
     close();
+    // To the engine an empty file is an empty database, and locking it would write to it.
+    const QFileInfo file(path);
+    if (!options.create && file.isFile() && file.size() == 0)
+        return {Status::Code::NotADatabase, QStringLiteral("the file is empty")};
     int flags = options.readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
     if (options.create) flags |= SQLITE_OPEN_CREATE;
     // A session has one thread, so each call is spared the connection's mutex.
@@ -155,11 +160,12 @@ Status SqliteEngine::configure(const OpenOptions &options)
         return {Status::Code::ReadOnly, QStringLiteral("the file can't be written")};
     Status status = registerCollation(m_database);
     if (!status.ok()) return status;
+    // Under this setting the engine reads a file that is shorter than its header says.
+    if (options.damaged) status = execute(QStringLiteral("PRAGMA writable_schema = ON"));
+    if (!status.ok()) return status;
     status = execute(QStringLiteral("PRAGMA synchronous = FULL; PRAGMA foreign_keys = OFF;"
                                     "PRAGMA cache_size = -16000"));
-    // Under this setting the engine reads a file that is shorter than its header says.
-    if (status.ok() && options.damaged) status = execute(QStringLiteral("PRAGMA writable_schema = ON"));
-    // The lock outlives the transaction. A commit would write a header into an empty file.
+    // The lock outlives the transaction.
     if (status.ok() && options.exclusive)
         status = execute(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE; ROLLBACK"));
     // The first read tells a foreign file from a database.

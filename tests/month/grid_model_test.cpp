@@ -3,6 +3,7 @@
 #include "month/open_month.h"
 
 #include <QAbstractItemModelTester>
+#include <QRect>
 #include <QSignalSpy>
 
 namespace velmora::test
