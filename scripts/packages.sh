@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034
 # Shell functions that ./run and ./check share: packages of Debian 12 and the locale.
 
 # What the program is built from and what it shows text and icons with. A bare machine has no font.

@@ -2,7 +2,9 @@
 
 #include "launcher/window.h"
 #include "month/month_view.h"
+#include "workstation/colours.h"
 
+#include <QApplication>
 #include <QEventLoop>
 #include <QPixmap>
 #include <QTimer>
@@ -30,6 +32,15 @@ bool attendPret(MonthView &mois)
     return pret;
 }
 
+/// The user's display settings, without giving the row those that it lacks: a picture changes nothing.
+void litAffichage(Session &session)
+{
+    session.affichage = session.base.agent.row().affichage;
+    if (affichageComplet(session.affichage)) return;
+    const QColor encre = QApplication::palette().color(QPalette::WindowText);
+    session.affichage = affichageParDefaut(encre.rgb(), {});
+}
+
 } // namespace
 
 bool peintMois(Session &session, const QString &fichier)
@@ -37,8 +48,8 @@ bool peintMois(Session &session, const QString &fichier)
     // It opens no other window: nobody is there to close one.
     Ouvertures ouvertures;
     ouvertures.mois = nouveauMois;
+    litAffichage(session);
     Mdivel fenetre(session, ouvertures);
-    fenetre.charge();
     fenetre.resize(ecran);
     fenetre.show();
     fenetre.ouvreMois();

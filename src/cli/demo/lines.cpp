@@ -82,14 +82,17 @@ void limite(Ligne &ligne)
     ligne.pause = 20;
 }
 
-/// Most lines are older than the planning and open; a few begin or end within it.
+/// Most lines are older than the planning and open; a few begin or end within it, and all are open on the
+/// first of today's month.
 void date(Ligne &ligne, const Demo &demo, Hasard &hasard)
 {
-    const int duree = static_cast<int>(demo.debut().daysTo(demo.fin()));
+    const QDate premier(demo.aujourdhui.year(), demo.aujourdhui.month(), 1);
+    const int avant = static_cast<int>(demo.debut().daysTo(premier)) + 1;
+    const int apres = static_cast<int>(premier.daysTo(demo.fin())) + 1;
     ligne.datedeb = demo.debut().addDays(-hasard.entre(30, 3000));
     ligne.datefin = QDate(2099, 1, 1);
-    if (ligne.nump % 15 == 8) ligne.datedeb = demo.debut().addDays(hasard.jusqua(duree));
-    if (ligne.nump % 15 == 12) ligne.datefin = demo.debut().addDays(hasard.jusqua(duree));
+    if (ligne.nump % 15 == 8) ligne.datedeb = demo.debut().addDays(hasard.jusqua(avant));
+    if (ligne.nump % 15 == 12) ligne.datefin = premier.addDays(hasard.jusqua(apres));
 }
 
 } // namespace
