@@ -42,6 +42,17 @@ template <class Widget> Widget *nomme(Widget *widget, const char *nom)
     return widget;
 }
 
+/// The entry of the menus that each button of the toolbar stands for.
+const QHash<Bouton, QString> &commandesBoutons()
+{
+    static const QHash<Bouton, QString> entrees{
+        {Bouton::Absence, QStringLiteral("mnuabs")},   {Bouton::Imprimer, QStringLiteral("mnuimpi")},
+        {Bouton::Zoom, QStringLiteral("mnuzoom")},     {Bouton::Couper, QStringLiteral("mnucoupe")},
+        {Bouton::Copier, QStringLiteral("mnucopier")}, {Bouton::Coller, QStringLiteral("mnucoller")},
+        {Bouton::Undo, QStringLiteral("mnuundo")},     {Bouton::Do, QStringLiteral("mnudo")}};
+    return entrees;
+}
+
 } // namespace
 
 Fplan::Fplan(Session &session, QWidget *parent)
@@ -179,7 +190,10 @@ void Fplan::rafraichit()
 void Fplan::montreCommandes()
 {
     m_menus.montre(m_planning.commandes);
-    emit commandsChanged(ToolbarState::onRefresh(m_planning.commandes));
+    ToolbarState state = ToolbarState::onRefresh(m_planning.commandes);
+    for (auto commande = commandesBoutons().begin(); commande != commandesBoutons().end(); ++commande)
+        if (!m_menus.estLiee(commande.value())) state = state.without(commande.key());
+    emit commandsChanged(state);
 }
 
 void Fplan::command(const QString &cle)
@@ -190,15 +204,9 @@ void Fplan::command(const QString &cle)
 
 void Fplan::execute()
 {
-    static const QHash<QString, QString> entrees{{QStringLiteral("absence"), QStringLiteral("mnuabs")},
-                                                 {QStringLiteral("Imprimer"), QStringLiteral("mnuimpi")},
-                                                 {QStringLiteral("zoom"), QStringLiteral("mnuzoom")},
-                                                 {QStringLiteral("Couper"), QStringLiteral("mnucoupe")},
-                                                 {QStringLiteral("Copier"), QStringLiteral("mnucopier")},
-                                                 {QStringLiteral("Coller"), QStringLiteral("mnucoller")},
-                                                 {QStringLiteral("Undo"), QStringLiteral("mnuundo")},
-                                                 {QStringLiteral("Do"), QStringLiteral("mnudo")}};
-    if (QAction *action = m_menus.entree(entrees.value(m_cle))) action->trigger();
+    const auto bouton = boutonDeCle(m_cle);
+    if (!bouton || !commandesBoutons().contains(*bouton)) return;
+    m_menus.entree(commandesBoutons().value(*bouton))->trigger();
 }
 
 void Fplan::saisitHeures()

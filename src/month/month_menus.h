@@ -36,6 +36,8 @@ public:
         entree(nom)->setEnabled(true);
     }
 
+    [[nodiscard]] bool estLiee(const QString &nom) const { return m_liees.contains(nom); }
+
     /// Opens and closes the entries as the commands stand.
     void montre(const EtatCommandes &etat);
 

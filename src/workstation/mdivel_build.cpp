@@ -89,6 +89,8 @@ QAction *Mdivel::entree(const Entree &definition)
 {
     auto *const action = nomme(new QAction(definition.caption, this), definition.nom);
     action->setShortcut(definition.raccourci);
+    // Leaving works over an open month too, whose menus have taken the place of these.
+    if (definition.raccourci == QKeySequence(QKeySequence::Quit)) addAction(action);
     action->setEnabled(definition.disponible);
     connect(action, &QAction::triggered, this, definition.action);
     return action;

@@ -69,6 +69,13 @@ ToolbarState ToolbarState::onRefresh(const EtatCommandes &commandes)
     return state;
 }
 
+ToolbarState ToolbarState::without(Bouton bouton) const
+{
+    ToolbarState state = *this;
+    state.at(bouton).enabled = false;
+    return state;
+}
+
 ToolbarState ToolbarState::allOff() const
 {
     ToolbarState state = *this;

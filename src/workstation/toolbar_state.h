@@ -48,6 +48,9 @@ public:
     /// The current cell has been looked at.
     [[nodiscard]] static ToolbarState onRefresh(const EtatCommandes &commandes);
 
+    /// The same with one button off: its command doesn't exist.
+    [[nodiscard]] ToolbarState without(Bouton bouton) const;
+
     /// Every button off, shown or not as it was.
     [[nodiscard]] ToolbarState allOff() const;
 
