@@ -26,6 +26,16 @@ struct Surbrillance {
     QRgb encre = 0;
 };
 
+/// A run of columns on one row. It only grows to the right; `selfin` below `seldeb` is the empty state of a
+/// drag that came back onto its anchor.
+struct Selection {
+    bool selact = false;    ///< a selection exists
+    bool selglisse = false; ///< the left button is dragging
+    int selligne = 0;       ///< its row
+    int seldeb = 0;         ///< anchor column
+    int selfin = 0;         ///< last selected column
+};
+
 /// An open month: what the month form shows, without the form. The procedures of this folder work on it;
 /// the form only passes events in and shows what comes back.
 struct Planning {
@@ -53,6 +63,7 @@ struct Planning {
     QString texteStatut;         ///< status text of the current cell
     QDate dateStatut;
     EtatCommandes commandes;
+    Selection selection;
     int cliplong = 0; ///< days held by cut and copy
 
     [[nodiscard]] int premiereColonne() const { return Grille::colonnesFixes; }
