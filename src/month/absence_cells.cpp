@@ -40,6 +40,7 @@ AbsencesLigne::AbsencesLigne(Session &session, int nump) : m_nump(nump)
     auto absences = session.base.absences.range("abs01", {nump}, {nump});
     while (absences.next())
         m_absences.push_back(absences.row());
+    m_status = absences.status();
 }
 
 const AbsenceSaisie *AbsencesLigne::du(const QDate &date) const
@@ -53,7 +54,10 @@ const CodeAbsence *CodesAbsence::cherche(const QString &code)
     auto connu = m_codes.find(code);
     if (connu == m_codes.end()) {
         std::optional<CodeAbsence> lu;
-        if (cherchecode(m_session, code)) lu = m_session.base.codabs.row();
+        if (cherchecode(m_session, code))
+            lu = m_session.base.codabs.row();
+        else if (m_status.ok())
+            m_status = m_session.base.codabs.status();
         connu = m_codes.insert(code, lu);
     }
     return connu.value() ? &*connu.value() : nullptr;

@@ -13,6 +13,8 @@ class AbsencesLigne
 public:
     AbsencesLigne(Session &session, int nump);
 
+    /// Whether the spans could be read to their end.
+    [[nodiscard]] const store::Status &status() const { return m_status; }
     [[nodiscard]] bool vide() const { return m_absences.empty(); }
     /// The span that covers a date, by the same search as in the table; null for none.
     [[nodiscard]] const AbsenceSaisie *du(const QDate &date) const;
@@ -20,6 +22,7 @@ public:
 private:
     int m_nump;
     std::vector<AbsenceSaisie> m_absences; ///< in the order of their first dates
+    store::Status m_status;
 };
 
 /// The absence codes, each sought once in a pass.
@@ -29,10 +32,13 @@ public:
     explicit CodesAbsence(Session &session) : m_session(session) {}
     /// The code's row, or null for an unknown code.
     [[nodiscard]] const CodeAbsence *cherche(const QString &code);
+    /// The first failure of a search.
+    [[nodiscard]] const store::Status &status() const { return m_status; }
 
 private:
     Session &m_session;
     QHash<QString, std::optional<CodeAbsence>> m_codes;
+    store::Status m_status;
 };
 
 /// Writes the absence of a cell, if its date has one: the code, or "?" for an unknown code, with the code's

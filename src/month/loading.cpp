@@ -43,11 +43,15 @@ void chargeLignes(Planning &planning, const Chargement &chargement)
 {
     int progres = 1;
     auto lignes = planning.session.base.ligmois.range("ligmois02", {}, {});
-    while (lignes.next()) {
+    while (planning.lecture.ok() && lignes.next()) {
         if (!dansPeriode(lignes.row(), planning.periode)) continue;
-        if (ligdossier(planning.session, lignes.row().nump)) chargeligne(planning, lignes.row());
+        if (ligdossier(planning.session, lignes.row().nump))
+            chargeligne(planning, lignes.row());
+        else
+            planning.noteLecture(planning.session.base.groupe.status());
         if (chargement.progres) chargement.progres(++progres);
     }
+    planning.noteLecture(lignes.status());
 }
 
 void prepareTotaux(Planning &planning)
@@ -83,12 +87,25 @@ bool construit(Planning &planning, const Chargement &chargement)
 {
     const ReadPass lecture(planning.session.base.engine);
     const ContexteEntete contexte{planning.session.host.today(), planning.session.modecellule,
-                                  planning.mesures,
-                                  [&](const QDate &date) { return jourferie(planning.session, date); }};
+                                  planning.mesures, [&](const QDate &date) {
+                                      const bool ferie = jourferie(planning.session, date);
+                                      planning.noteLecture(planning.session.base.ferie.status());
+                                      return ferie;
+                                  }};
     ecritEntete(planning.grille, planning.colonnes, planning.periode, contexte);
     chargeLignes(planning, chargement);
     prepareTotaux(planning);
     return !sansLigne(planning);
+}
+
+/// The built grid has a line, if need be a new one.
+bool peuple(Planning &planning, const Chargement &chargement)
+{
+    if (construit(planning, chargement) || !planning.lecture.ok()) return planning.lecture.ok();
+    planning.session.host.message(
+        QStringLiteral("vous devez ouvrir au moins une ligne de planning pour cette période !"), titre);
+    return chargement.nouvelleligne && chargement.nouvelleligne() && !sansLigne(planning) &&
+           planning.lecture.ok();
 }
 
 } // namespace
@@ -128,11 +145,10 @@ bool chargi(Planning &planning, const Chargement &chargement)
         const DessinSuspendu dessin(planning.grille);
         planning.suivi = false;
         planning.surbrillance = {};
-        if (!construit(planning, chargement)) {
-            planning.session.host.message(
-                QStringLiteral("vous devez ouvrir au moins une ligne de planning pour cette période !"),
-                titre);
-            if (!chargement.nouvelleligne || !chargement.nouvelleligne() || sansLigne(planning)) return false;
+        planning.lecture = {};
+        if (!peuple(planning, chargement)) {
+            if (!planning.lecture.ok()) ditErreurBase(planning);
+            return false;
         }
         planning.curseur = {Grille::lignesFixes, colonneDepart(planning)};
         totalise(planning);

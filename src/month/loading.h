@@ -13,14 +13,15 @@ struct Chargement {
     std::function<bool()> nouvelleligne{};     ///< opens the new line dialog; true when a line came of it
 };
 
-/// Lines open in the period, of every folder: the scale of the progress bar.
+/// Lines open in the period, of every folder: the scale of the progress bar. A failure shortens the scale and
+/// is told by the load, which reads the same lines.
 [[nodiscard]] int compteLignes(Session &session, const Periode &periode);
 
 /// Whether the folder filter lets a line through: it is empty, or the folder holds the line.
 [[nodiscard]] bool ligdossier(Session &session, int nump);
 
 /// Builds the whole grid: header, lines by name, totals, cursor. False when no line is shown and none is
-/// made: the form then closes.
+/// made, or, after a message, when the tables can't be read to the end: the form then closes.
 [[nodiscard]] bool chargi(Planning &planning, const Chargement &chargement);
 
 /// Adds the row of a line before the row of totals and fills it. Column totals are left to the caller.

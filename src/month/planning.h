@@ -64,8 +64,14 @@ struct Planning {
     QDate dateStatut;
     EtatCommandes commandes;
     Selection selection;
-    int cliplong = 0; ///< days held by cut and copy
+    int cliplong = 0;      ///< days held by cut and copy
+    store::Status lecture; ///< first failure of a read since the load or the refill began
 
+    /// Keeps the first failure among the reads of a load or a refill.
+    void noteLecture(const store::Status &status)
+    {
+        if (lecture.ok()) lecture = status;
+    }
     [[nodiscard]] int premiereColonne() const { return Grille::colonnesFixes; }
     [[nodiscard]] QDate date(int colonne) const
     {

@@ -18,12 +18,8 @@ const Ligne &ligneCourante(Planning &planning)
 {
     auto &ligmois = planning.session.base.ligmois;
     ligmois.setIndex("ligmois01");
-    if (!ligmois.seek(store::Cmp::Eq, {planning.grille.numligne(planning.curseur.ligne)})) {
-        planning.session.host.message(
-            QStringLiteral("Une erreur de base de données vient de se produire: fermer "
-                           "l'application et relancer la !"),
-            titre);
-    }
+    if (!ligmois.seek(store::Cmp::Eq, {planning.grille.numligne(planning.curseur.ligne)}))
+        ditErreurBase(planning);
     return ligmois.row();
 }
 
@@ -46,6 +42,13 @@ void commandesCellule(Planning &planning, const Ligne &ligne)
 }
 
 } // namespace
+
+void ditErreurBase(const Planning &planning)
+{
+    planning.session.host.message(QStringLiteral("Une erreur de base de données vient de se produire: fermer "
+                                                 "l'application et relancer la !"),
+                                  titre);
+}
 
 bool ligneOuverte(const Ligne &ligne)
 {

@@ -13,6 +13,9 @@ void majcommandes(Planning &planning);
 /// decides which commands are open.
 void cycle(Planning &planning);
 
+/// Tells that the tables can't be read.
+void ditErreurBase(const Planning &planning);
+
 /// Whether a line is open: the year of its last date is above 2090.
 [[nodiscard]] bool ligneOuverte(const Ligne &ligne);
 

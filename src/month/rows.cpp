@@ -49,6 +49,8 @@ public:
             else
                 compte(colonne, remplitJour(colonne));
         }
+        for (const store::Status &status : {m_jours.status(), m_absences.status(), m_codes.status()})
+            m_planning.noteLecture(status);
     }
 
 private:
@@ -138,16 +140,56 @@ private:
     int m_apres = 0;
 };
 
+/// What a row shows, to be put back when its refill fails.
+class RangeeGardee
+{
+public:
+    RangeeGardee(Planning &planning, int rangee)
+        : m_planning(planning), m_rangee(rangee), m_hauteur(planning.grille.hauteur(rangee)),
+          m_surbrillance(planning.surbrillance)
+    {
+        for (int colonne = 0; colonne < planning.grille.colonnes(); ++colonne) {
+            m_cases.push_back(planning.grille.lit(rangee, colonne));
+            m_minutes.push_back(planning.grille.minutes(colonne, rangee));
+        }
+    }
+
+    void remet()
+    {
+        Grille &grille = m_planning.grille;
+        for (int colonne = 0; colonne < grille.colonnes(); ++colonne) {
+            const Case &une = m_cases[static_cast<std::size_t>(colonne)];
+            grille.ecrit(m_rangee, colonne, une.texte);
+            grille.colore(m_rangee, colonne, une.fond, une.encre);
+            grille.fixeMinutes(colonne, m_rangee, m_minutes[static_cast<std::size_t>(colonne)]);
+        }
+        grille.fixeHauteur(m_rangee, m_hauteur);
+        m_planning.surbrillance = m_surbrillance;
+    }
+
+private:
+    Planning &m_planning;
+    int m_rangee;
+    int m_hauteur;
+    Surbrillance m_surbrillance;
+    std::vector<Case> m_cases;
+    std::vector<int> m_minutes;
+};
+
 void refait(Planning &planning, int nump, const Ligne *dates, int rangee)
 {
     {
         const TravailGrille travail(planning);
         const ReadPass lecture(planning.session.base.engine);
+        planning.lecture = {};
+        RangeeGardee avant(planning, rangee);
         soustotal(planning, rangee);
         if (dates) marqueferme(planning, *dates, rangee);
         rempligne(planning, nump, rangee);
+        if (!planning.lecture.ok()) avant.remet();
         ajoutetotal(planning, rangee);
     }
+    if (!planning.lecture.ok()) ditErreurBase(planning);
     majcommandes(planning);
 }
 
@@ -185,6 +227,7 @@ void sommeavant(Planning &planning, int nump, int rangee)
     int somme = 0;
     while (jours.next())
         somme += horaireDuJour(jours.row()).minutes;
+    planning.noteLecture(jours.status());
     planning.grille.fixeAvantmois(rangee, somme);
 }
 

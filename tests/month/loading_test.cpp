@@ -2,12 +2,15 @@
 
 #include "month/open_month.h"
 #include "month/text_form.h"
+#include "support/raw_sqlite.h"
 
 namespace velmora::test
 {
 namespace
 {
 
+const QString damagedBase = QStringLiteral(
+    "Une erreur de base de données vient de se produire: fermer l'application et relancer la !");
 const QString noLine =
     QStringLiteral("vous devez ouvrir au moins une ligne de planning pour cette période !");
 
@@ -117,6 +120,49 @@ TEST_F(LoadingTest, SizesRowsAndColoursWeekendsHolidaysAndTheTotals)
     EXPECT_EQ(grille.hauteur(month.row(1)), month.planning.mesures.hautligne);
     EXPECT_EQ(grille.hauteur(grille.derniereLigne()), month.planning.mesures.hautligne * 2 / 3);
     EXPECT_EQ(grille.lit(grille.derniereLigne(), month.column({2026, 7, 14})).fond, palette::fondTotal);
+}
+
+/// Fills the page that holds a line's day with rubbish, and opens the file anew.
+void damageDay(Workstation &station, int nump, const QDate &date)
+{
+    station.session.base.close();
+    const QByteArray mark("-la-page-de-ce-jour-");
+    ASSERT_TRUE(RawSqlite(station.mainFile())
+                    .run(QStringLiteral("UPDATE sitper SET horaire = '%1' WHERE nump = %2 AND dat = '%3'")
+                             .arg(QString::fromLatin1(mark))
+                             .arg(nump)
+                             .arg(date.toString(Qt::ISODate))));
+    QFile file(station.mainFile());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    constexpr qint64 pageSize = 4096;
+    const qint64 page = file.readAll().indexOf(mark) / pageSize;
+    ASSERT_GT(page, 0);
+    ASSERT_TRUE(file.seek(page * pageSize));
+    file.write(QByteArray(pageSize, '\xa7'));
+    file.close();
+    ASSERT_TRUE(station.session.base.open(station.mainFile()).ok());
+}
+
+TEST_F(LoadingTest, DamagedPageOfHoursIsToldAndShowsNoWrongTotal)
+{
+    const QDate start(2026, 5, 1);
+    for (const int nump : {1, 2, 3}) {
+        station.addLine(nump, QString(QChar(u'A' + nump)));
+        for (int day = 0; day < 90; ++day)
+            station.addDay(nump, start.addDays(day), 480, 960);
+    }
+    OpenMonth month(station, 6, 2026);
+    ASSERT_TRUE(month.shown);
+    month.moveTo(2, {2026, 6, 15});
+    const QStringList before = snapshot(month.planning.grille);
+    damageDay(station, 2, {2026, 6, 15});
+    station.host.expectMessage(damagedBase);
+    month.refill(2);
+    EXPECT_EQ(difference(snapshot(month.planning.grille), before), "");
+    month.refill(1);
+    EXPECT_EQ(difference(snapshot(month.planning.grille), before), "");
+    station.host.expectMessage(damagedBase);
+    EXPECT_FALSE(OpenMonth(station, 6, 2026).shown);
 }
 
 } // namespace
