@@ -26,7 +26,7 @@ public:
     /// invalid date for any other text.
     [[nodiscard]] static QDate ctod(const QString &text);
 
-    /// Minutes as hour text: "8h20", "0h00", "-0h15", padded on the left with blanks to no width: a cell
+    /// Minutes as hour text: "8h20", "0h00", "-0h15", not padded: a cell
     /// is centred and callers compare with "0h00", so `width` (5 for a moment, 7 for a duration) only
     /// states the widest text expected.
     [[nodiscard]] static QString fwhl(int minutes, int width);

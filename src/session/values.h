@@ -11,10 +11,10 @@ namespace velmora
 /// Minutes as text, by the session option `totcent`: hours and minutes ("7h05", "-0h15", "152h30"), or
 /// hours and hundredths of an hour with the locale's mark ("7.58"), half a hundredth going up.
 ///
-/// The argument is changed as the readers of numeric fields expect, with `totcent` false only: a null
-/// becomes 0 and a fraction is dropped towards minus infinity; the sign stays. A value that is not finite
-/// counts as null, and the text stops at the range of int.
-/// With `totcent` true it is left alone, and a null or a value that is not finite gives an empty text.
+/// With `totcent` false the argument is changed too: a null becomes 0 and a fraction is dropped towards minus
+/// infinity; the sign stays. A value that is not finite counts as null, and the text stops at the range of
+/// int. With `totcent` true the argument is left alone, and a null or a value that is not finite gives an
+/// empty text.
 [[nodiscard]] QString hdeci(std::optional<double> &minutes, bool totcent);
 
 /// The same for whole minutes: what a cell calls, with no allocation beyond the result.

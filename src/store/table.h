@@ -2,6 +2,7 @@
 
 #include "store/table_base.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -126,8 +127,9 @@ public:
         return take(statement);
     }
 
-    bool first() { return takeFrom(endStatement(true)); }
-    bool last() { return takeFrom(endStatement(false)); }
+    /// An end of the table in the order of the index. In an empty table there is no current row then.
+    bool first() { return takeEnd(endStatement(true)); }
+    bool last() { return takeEnd(endStatement(false)); }
     /// The row after or before the current one in the order of the index. At the end there is no current
     /// row until the next seek, and `atEnd` is true.
     bool next() { return stepTo(true); }
@@ -137,15 +139,20 @@ public:
 
     /// The current row, or the values of the edit while one is under way.
     [[nodiscard]] const Row &row() const { return m_editMode == EditMode::None ? m_current : m_buffer; }
+    /// The current row as it was read, also while an edit of it is under way.
+    [[nodiscard]] const Row &current() const { return m_current; }
     /// The values to write, only between `edit` or `addNew` and `update`.
     [[nodiscard]] Row &values() { return m_buffer; }
 
-    /// Begins a change of the current row, read again from the file.
+    /// Begins a change of the current row, read again from the file. `update` then writes that row, whatever
+    /// row has become current.
     Status edit()
     {
         if (!m_hasRow) return m_status = noRow();
         if (!reread(m_rowid, m_current)) return m_status.ok() ? m_status = noRow() : m_status;
         m_buffer = m_current;
+        m_edited = bookmark();
+        m_moved = false;
         m_editMode = EditMode::InProgress;
         return m_status;
     }
@@ -164,8 +171,8 @@ public:
         m_updatePending = !outcome.ok();
         if (!outcome.ok()) return m_status = outcome;
         m_editMode = EditMode::None;
-        m_lastModified = {adding ? m_engine.lastInsertedRow() : m_rowid, m_buffer};
-        if (!adding) m_current = m_buffer;
+        m_lastModified = {adding ? m_engine.lastInsertedRow() : m_edited.rowid(), m_buffer};
+        if (!adding && !m_moved) m_current = m_buffer;
         return m_status = outcome;
     }
     /// Deletes the current row. A step from it still goes to its neighbours.
@@ -185,7 +192,7 @@ public:
         TableBase::release();
         m_hasRow = m_atEnd = false;
         m_current = m_buffer = {};
-        m_lastModified = {};
+        m_lastModified = m_edited = {};
     }
 
     /// The row that `update` wrote last; empty before the first.
@@ -202,11 +209,16 @@ public:
     }
 
     /// Reads the rows from one key to another, both included, in the order of an index. An empty key leaves
-    /// that side open.
+    /// that side open. An index or a column that the table doesn't have is a mistake of the caller's and a
+    /// failure.
     [[nodiscard]] Rows<Row> range(const char *indexName, const Key &from, const Key &to,
                                   const std::vector<int> &columns = Columns<Row>::all())
     {
-        Slot &statement = rangeStatement(m_schema.index(QString::fromLatin1(indexName)), from, to, columns);
+        const int ranged = m_schema.index(QString::fromLatin1(indexName));
+        const bool known = ranged >= 0 && std::find(columns.begin(), columns.end(), -1) == columns.end();
+        Q_ASSERT_X(known, "range", "no such index or column");
+        if (!known) return {nullptr, columns};
+        Slot &statement = rangeStatement(ranged, from, to, columns);
         if (!statement) return {nullptr, columns};
         int position = 0;
         for (const KeyValue &value : from)
@@ -219,7 +231,19 @@ public:
 private:
     static Status noRow() { return {Status::Code::NoRow, QStringLiteral("no current row")}; }
 
-    bool takeFrom(Slot &statement) { return statement && take(statement); }
+    bool takeEnd(Slot &statement)
+    {
+        if (!statement) return false;
+        if (take(statement)) return true;
+        if (m_status.ok()) endWalk();
+        return false;
+    }
+
+    void endWalk()
+    {
+        m_hasRow = false;
+        m_atEnd = true;
+    }
 
     bool take(Slot &statement)
     {
@@ -230,7 +254,7 @@ private:
             int column = 0;
             for (const auto &access : accessOf<Row>())
                 access.read(m_current, *statement, ++column);
-            m_hasRow = true;
+            m_hasRow = m_moved = true;
             m_atEnd = false;
         }
         statement->reset();
@@ -246,10 +270,7 @@ private:
             bindColumn(*statement, ++position, column, m_current);
         if (!m_schema.clustered) statement->bindInt(++position, m_rowid);
         const bool found = take(statement);
-        if (!found) {
-            m_hasRow = false;
-            m_atEnd = true;
-        }
+        if (!found) endWalk();
         return found;
     }
 
@@ -300,7 +321,7 @@ private:
     {
         Slot &statement = updateStatement();
         if (!statement) return m_status;
-        bindIdentity(*statement, bindAll(*statement), m_rowid, m_current);
+        bindIdentity(*statement, bindAll(*statement), m_edited.rowid(), m_edited.row());
         return changedOne(statement);
     }
 
@@ -309,6 +330,8 @@ private:
     std::int64_t m_rowid = 0;
     bool m_hasRow = false;
     bool m_atEnd = false;
+    bool m_moved = false;   ///< a row has been read since the edit began
+    Bookmark<Row> m_edited; ///< the row under edit, as it was
     Bookmark<Row> m_lastModified;
 };
 

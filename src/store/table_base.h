@@ -101,8 +101,8 @@ protected:
     Status m_status;
 
 private:
-    /// What tells the passes over runs of rows apart: index, columns of both bounds, columns read.
-    /// Index, first values shared by both bounds, values of each bound, columns.
+    /// What tells the passes over runs of rows apart: index, count of first values that both bounds share,
+    /// counts of values of each bound, columns read.
     using RangeKey = std::tuple<int, std::size_t, std::size_t, std::size_t, std::vector<int>>;
 
     [[nodiscard]] Slot &prepared(const QString &sql);

@@ -98,6 +98,30 @@ TEST_F(TableTest, FailedUpdateKeepsTheEditAndItsValues)
     EXPECT_EQ(sitper.row().dat, QDate(2026, 6, 6));
 }
 
+TEST_F(TableTest, UpdateWritesTheEditedRowWhateverIsSoughtMeanwhile)
+{
+    ASSERT_TRUE(sitper.seek(Cmp::Eq, {1, QDate(2026, 6, 5)}) && sitper.edit().ok());
+    sitper.values().heurdeb = 77;
+    EXPECT_EQ(sitper.current().heurdeb, 480);
+    ASSERT_TRUE(sitper.seek(Cmp::Eq, {2, QDate(2026, 6, 9)}));
+    ASSERT_TRUE(sitper.update().ok());
+    EXPECT_EQ(sitper.row().nump, 2);
+    EXPECT_EQ(sitper.row().heurdeb, 480);
+    ASSERT_TRUE(sitper.goTo(sitper.lastModified()));
+    EXPECT_EQ(sitper.row().dat, QDate(2026, 6, 5));
+    EXPECT_EQ(sitper.row().heurdeb, 77);
+    EXPECT_EQ(walk(sitper).size(), 6);
+}
+
+TEST_F(TableTest, EndsOfAnEmptyTableLeaveNoRowToActOn)
+{
+    ASSERT_TRUE(sitper.first());
+    ASSERT_TRUE(station.session.base.engine.execute(QStringLiteral("DELETE FROM sitper")).ok());
+    EXPECT_FALSE(sitper.last());
+    EXPECT_TRUE(sitper.atEnd());
+    EXPECT_EQ(sitper.edit().code(), store::Status::Code::NoRow);
+}
+
 TEST_F(TableTest, ReadsARowWrittenWithOnlyTheFieldsThatMatter)
 {
     ASSERT_TRUE(station.session.base.engine
