@@ -20,7 +20,8 @@ QString columnList(const Schema &schema, const Index &index)
 QString emptyDefault(const Schema &schema, const Column &column)
 {
     if (schema.clustered || !column.sought) return {};
-    return QStringLiteral(" NOT NULL DEFAULT ") +
+    const QString nullBecomesDefault = column.key ? QString() : QStringLiteral(" ON CONFLICT REPLACE");
+    return QStringLiteral(" NOT NULL") + nullBecomesDefault + QStringLiteral(" DEFAULT ") +
            (column.isText() ? QStringLiteral("''") : QStringLiteral("0"));
 }
 
@@ -67,7 +68,9 @@ void addIndexes(Schema &schema, const std::vector<IndexDef> &indexes)
         Index index{QString::fromLatin1(declared.name), {}, declared.unique};
         for (const char *column : declared.columns) {
             index.columns.push_back(schema.ordinal(QString::fromLatin1(column)));
-            schema.columns[static_cast<std::size_t>(index.columns.back())].sought = true;
+            Column &indexed = schema.columns[static_cast<std::size_t>(index.columns.back())];
+            indexed.sought = true;
+            indexed.key = indexed.key || declared.unique;
         }
         schema.indexes.push_back(std::move(index));
     }

@@ -34,6 +34,7 @@ struct Column {
     QString sqlType;
     bool french = false;
     bool sought = false; ///< part of an index
+    bool key = false;    ///< part of a unique index
 
     [[nodiscard]] bool isText() const { return sqlType == QLatin1String("TEXT"); }
 };
@@ -54,7 +55,8 @@ struct Schema {
     [[nodiscard]] int ordinal(const QString &column) const;
     [[nodiscard]] int index(const QString &name) const; ///< -1 when there is none of that name
     /// The statements that make the table and its indexes. A column of an index is never null, so that a
-    /// row which another tool wrote without it still has its place in the order.
+    /// row which another tool wrote without it still has its place in the order: outside the keys, a null
+    /// that a tool writes becomes the empty value.
     [[nodiscard]] QStringList creation() const;
 };
 

@@ -49,7 +49,10 @@ TEST_F(ExternalToolsTest, RowsWithoutTheirKeyDontEndAWalk)
 {
     ASSERT_TRUE(tool.run(QStringLiteral("INSERT INTO ligmois (nump) VALUES (1), (2)")));
     ASSERT_TRUE(tool.run(QStringLiteral("INSERT INTO ligmois (nump, nom) VALUES (3, 'EMMA')")));
-    EXPECT_FALSE(tool.run(QStringLiteral("INSERT INTO ligmois (nump, nom) VALUES (4, NULL)")));
+    ASSERT_TRUE(tool.run(QStringLiteral("INSERT INTO ligmois (nump, nom) VALUES (4, NULL)")));
+    EXPECT_FALSE(tool.run(QStringLiteral("INSERT INTO ligmois (nump, nom) VALUES (NULL, 'ZOE')")));
+    ASSERT_TRUE(tool.run(QStringLiteral("INSERT INTO absences (nump, datedeb) VALUES (1, NULL)")));
+    EXPECT_TRUE(base.absences.first() && !base.absences.row().datedeb.isValid());
     ASSERT_TRUE(base.ligmois.addNew().ok());
     base.ligmois.values().nump = 5;
     ASSERT_TRUE(base.ligmois.update().ok()) << "an unset name is an empty one";
@@ -57,7 +60,7 @@ TEST_F(ExternalToolsTest, RowsWithoutTheirKeyDontEndAWalk)
     QList<int> forward;
     for (bool found = base.ligmois.first(); found; found = base.ligmois.next())
         forward << base.ligmois.row().nump;
-    EXPECT_EQ(forward, (QList<int>{1, 2, 5, 3}));
+    EXPECT_EQ(forward, (QList<int>{1, 2, 4, 5, 3}));
     QList<int> backward;
     for (bool found = base.ligmois.last(); found; found = base.ligmois.previous())
         backward.prepend(base.ligmois.row().nump);
