@@ -55,6 +55,12 @@ bool CliHost::question(const QString &text, const QString &)
     return oui;
 }
 
+bool CliHost::retry(const QString &text, const QString &title, int attempt)
+{
+    if (m_reponse && attempt > fixedRetries) m_reponse = false;
+    return question(text, title);
+}
+
 bool CliHost::demande()
 {
     imprimeErreur(QStringLiteral("(o)ui / (n)on ?"));

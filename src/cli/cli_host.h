@@ -19,6 +19,7 @@ public:
 
     void message(const QString &text, const QString &title) override;
     [[nodiscard]] bool question(const QString &text, const QString &title) override;
+    [[nodiscard]] bool retry(const QString &text, const QString &title, int attempt) override;
     [[nodiscard]] QDate today() const override;
     [[nodiscard]] QDateTime now() const override;
     /// There is no desktop here: the target is printed.

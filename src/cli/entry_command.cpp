@@ -67,8 +67,9 @@ int enregistre(Session &session, const QStringList &heures)
         session.host.message(horaireEnAnomalie(), titre);
         return refuse;
     }
-    ecrihor(session, journeeSaisie(session), jourDeSaisie(saisie->textes(), saisie->total()));
-    return reussi;
+    const bool ecrit =
+        ecrihor(session, journeeSaisie(session), jourDeSaisie(saisie->textes(), saisie->total()));
+    return ecrit ? reussi : refuse;
 }
 
 int saisit(Session &session, const Demande &demande)

@@ -31,11 +31,14 @@ Status ecritJour(Session &session, const JourSit &jour)
     return status;
 }
 
+int ouvreOperation(Session &session, const JourneeSaisie &journee)
+{
+    return ecritop(session, QStringLiteral("S"),
+                   QStringLiteral("nouvel horaire: ") + journee.nom + periodetexte(journee.dd, journee.df));
+}
+
 Status ecritJours(Session &session, const JourneeSaisie &journee, JourSit jour)
 {
-    session.opcour =
-        ecritop(session, QStringLiteral("S"),
-                QStringLiteral("nouvel horaire: ") + journee.nom + periodetexte(journee.dd, journee.df));
     jour.nump = journee.nump;
     for (jour.dat = journee.dd; jour.dat <= journee.df; jour.dat = jour.dat.addDays(1)) {
         jour.datj = session.host.now();
@@ -47,10 +50,16 @@ Status ecritJours(Session &session, const JourneeSaisie &journee, JourSit jour)
 
 } // namespace
 
-void ecrihor(Session &session, const JourneeSaisie &journee, const JourSit &horaire)
+bool ecrihor(Session &session, const JourneeSaisie &journee, const JourSit &horaire)
 {
-    enLot(session, [&] { return ecritJours(session, journee, horaire); });
+    int operation = 0;
+    const bool ecrit = enLot(session, [&] {
+        // A second try goes on with the operation, unless the failure took that back too.
+        if (operation == 0 || session.opcour != operation) operation = ouvreOperation(session, journee);
+        return ecritJours(session, journee, horaire);
+    });
     session.dlgvalide = true;
+    return ecrit;
 }
 
 } // namespace velmora

@@ -2,11 +2,28 @@
 
 #include "session/guards.h"
 
+#include <utility>
+
 namespace velmora
 {
 
 using store::Engine;
 using store::Status;
+
+namespace
+{
+
+/// Deletes the images of an operation above a rank.
+template <class Image> void retireImages(store::Table<Image> &images, int numop, int nivop)
+{
+    bool trouve = images.seek(store::Cmp::Gt, {numop, nivop});
+    while (trouve && images.row().rang.numop == numop) {
+        images.erase().ignore();
+        trouve = images.next();
+    }
+}
+
+} // namespace
 
 Batch::Batch(Session &session) : m_session(session)
 {
@@ -22,21 +39,90 @@ Batch::~Batch()
 Status Batch::begin()
 {
     const Status status = m_session.base.engine.begin(Engine::Transaction::Write);
-    if (status.ok()) m_session.journal.engine.begin(Engine::Transaction::Write).ignore();
+    m_begun = status.ok();
+    if (!m_begun) return status;
+    m_session.journal.engine.begin(Engine::Transaction::Write).ignore();
+    m_avant = anneau();
+    if (m_step) m_step->marque();
     return status;
 }
 
 Status Batch::commit()
 {
-    if (m_session.journal.engine.inTransaction() && !m_session.journal.engine.commit().ok())
-        m_session.journal.engine.rollback();
-    return m_session.base.engine.inTransaction() ? m_session.base.engine.commit() : Status{};
+    Engine &base = m_session.base.engine;
+    Engine &journal = m_session.journal.engine;
+    if (!m_begun) return m_echec;
+    // The engine gives a transaction up by itself when the disk fails.
+    if (m_echec.ok() && !base.inTransaction())
+        m_echec = {Status::Code::Io, QStringLiteral("the transaction is gone")};
+    if (!m_echec.ok()) {
+        rollback();
+        return m_echec;
+    }
+    m_begun = false;
+    const bool recorded = journal.inTransaction() && journal.commit().ok();
+    journal.rollback();
+    m_echec = base.commit();
+    if (m_echec.ok()) return {};
+    base.rollback();
+    if (recorded) reprendJournal();
+    remetSession();
+    return m_echec;
 }
 
 void Batch::rollback()
 {
     m_session.base.engine.rollback();
     m_session.journal.engine.rollback();
+    if (std::exchange(m_begun, false)) remetSession();
+}
+
+/// A walk of the ring may be waiting in a pause: its current row stays.
+Batch::Anneau Batch::anneau()
+{
+    Anneau lu{{}, m_session.opcour, m_session.nivcour, m_session.peutannul, m_session.peutrefaire};
+    auto operations = m_session.journal.logop.range("logop01", {}, {});
+    while (operations.next())
+        lu.operations.push_back(operations.row());
+    return lu;
+}
+
+void Batch::remetSession()
+{
+    m_session.opcour = m_avant.opcour;
+    m_session.nivcour = m_avant.nivcour;
+    m_session.peutannul = m_avant.peutannul;
+    m_session.peutrefaire = m_avant.peutrefaire;
+}
+
+/// Undoes a recording that is committed already, while its rows are not. The images that a new operation
+/// drove out of its slot are gone: the slot comes back empty.
+void Batch::reprendJournal()
+{
+    auto &journal = m_session.journal;
+    if (!journal.engine.begin(Engine::Transaction::Write).ok()) return;
+    const int opcour = m_session.opcour;
+    const bool nouvelle = opcour != m_avant.opcour;
+    retireImages(journal.sitlog, opcour, nouvelle ? 0 : m_avant.nivcour);
+    retireImages(journal.logabs, opcour, nouvelle ? 0 : m_avant.nivcour);
+    remetOperations(nouvelle ? opcour : 0);
+    if (!journal.engine.commit().ok()) journal.engine.rollback();
+}
+
+/// Writes the ring's rows as they were. The slot of an operation opened since comes back free.
+void Batch::remetOperations(int ouverte)
+{
+    auto &logop = m_session.journal.logop;
+    auto avant = m_avant.operations.cbegin();
+    for (bool found = logop.first(); found && avant != m_avant.operations.cend(); found = logop.next()) {
+        if (!logop.edit().ok()) continue;
+        Operation &operation = logop.values() = *avant++;
+        if (ouverte != 0 && operation.numop == ouverte) {
+            if (operation.valop) operation.ordop = m_session.nblog + 1;
+            operation.valop = false;
+        }
+        if (!logop.update().ok()) logop.cancelUpdate();
+    }
 }
 
 Batch::Pause::Pause(Batch *batch) : m_batch(batch)
@@ -49,21 +135,36 @@ Batch::Pause::~Pause()
     if (m_batch) m_batch->begin().ignore();
 }
 
-BatchStep::BatchStep(Session &session) : m_engine(session.base.engine)
+BatchStep::BatchStep(Session &session) : m_session(session)
 {
-    if (m_engine.inTransaction()) m_engine.execute(QStringLiteral("SAVEPOINT etape")).ignore();
+    if (m_session.batch) m_outer = std::exchange(m_session.batch->m_step, this);
+    marque();
 }
 
 BatchStep::~BatchStep()
 {
-    if (!m_kept && m_engine.inTransaction())
-        m_engine.execute(QStringLiteral("ROLLBACK TO etape; RELEASE etape")).ignore();
+    if (m_session.batch) m_session.batch->m_step = m_outer;
+    if (m_kept || !m_session.base.engine.inTransaction()) return;
+    surChaque(QStringLiteral("ROLLBACK TO etape; RELEASE etape"));
+    m_session.nivcour = m_nivcour;
+}
+
+void BatchStep::marque()
+{
+    m_nivcour = m_session.nivcour;
+    surChaque(QStringLiteral("SAVEPOINT etape"));
 }
 
 void BatchStep::keep()
 {
-    if (m_engine.inTransaction()) m_engine.execute(QStringLiteral("RELEASE etape")).ignore();
+    surChaque(QStringLiteral("RELEASE etape"));
     m_kept = true;
+}
+
+void BatchStep::surChaque(const QString &sql)
+{
+    for (Engine *engine : {&m_session.base.engine, &m_session.journal.engine})
+        if (engine->inTransaction()) engine->execute(sql).ignore();
 }
 
 QString questionDisque()
@@ -73,6 +174,12 @@ QString questionDisque()
 
 namespace
 {
+
+/// Whether another try may do better.
+bool reessayable(Status::Code code)
+{
+    return code != Status::Code::NoRow && code != Status::Code::Constraint && code != Status::Code::Misuse;
+}
 
 Status unLot(Session &session, const std::function<Status()> &work)
 {
@@ -85,15 +192,21 @@ Status unLot(Session &session, const std::function<Status()> &work)
 
 } // namespace
 
-void enLot(Session &session, const std::function<Status()> &work)
+bool enLot(Session &session, const std::function<Status()> &work)
 {
-    for (;;) {
+    // The edits of a command that this one interrupts stay.
+    const auto tenues = session.batch ? session.base.editing() : std::vector<store::TableBase *>{};
+    for (int essai = 1;; ++essai) {
         const Status status = session.batch ? work() : unLot(session, work);
-        if (status.ok()) return;
-        session.base.cancelUpdates();
+        if (status.ok()) return true;
+        session.base.cancelUpdates(tenues);
         const Batch::Pause released(session.batch);
+        if (!reessayable(status.code())) {
+            session.host.message(QStringLiteral("Problème accès disque!"), titre);
+            return false;
+        }
         const bool busy = status.code() == Status::Code::Busy;
-        if (!session.host.question(busy ? questionBloquage() : questionDisque(), titre))
+        if (!session.host.retry(busy ? questionBloquage() : questionDisque(), titre, essai))
             session.host.endProcess();
     }
 }

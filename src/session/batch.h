@@ -3,13 +3,18 @@
 #include "session/session.h"
 
 #include <functional>
+#include <vector>
 
 namespace velmora
 {
 
-/// The rows of one command, written in one transaction over both databases. The journal is committed first:
-/// if the machine stops between the two commits, undoing the recorded operation is harmless. A failure of
-/// the journal alone is passed over, and the planning still changes.
+class BatchStep;
+
+/// The rows of one command, written in one transaction over both databases. The main file is this session's
+/// alone from `begin` on, so that another workstation's lock can only be met there; whoever reads meanwhile
+/// waits. The journal is committed first: if the machine stops between the two commits, undoing the recorded
+/// operation is harmless. When the main file's commit fails, the recording is taken back. A failure of the
+/// journal alone is passed over, and the planning still changes.
 class Batch
 {
 public:
@@ -20,6 +25,8 @@ public:
 
     /// Takes the main file's write lock, waiting for other workstations as long as the busy wait.
     [[nodiscard]] store::Status begin();
+    /// Ends the transaction. A failure, also one of an earlier commit of the batch, leaves neither rows nor
+    /// recording of what has been written since `begin`.
     [[nodiscard]] store::Status commit();
     void rollback();
 
@@ -38,10 +45,31 @@ public:
     };
 
 private:
+    friend class BatchStep;
+
+    /// The journal's ring and the session's part of it, as they were before the transaction.
+    struct Anneau {
+        std::vector<Operation> operations; ///< in the order of the table
+        int opcour = 0;
+        int nivcour = 0;
+        bool peutannul = false;
+        bool peutrefaire = false;
+    };
+
+    [[nodiscard]] Anneau anneau();
+    void remetSession();
+    void reprendJournal();
+    void remetOperations(int ouverte);
+
     Session &m_session;
+    BatchStep *m_step = nullptr; ///< the part that is being written
+    bool m_begun = false;        ///< a transaction was taken and not ended yet
+    store::Status m_echec;       ///< a commit that failed
+    Anneau m_avant;
 };
 
-/// A part of a batch that is kept or taken back whole: the rows of one date.
+/// A part of a batch that is kept or taken back whole, its images included: the rows of one date. What was
+/// written before a pause stands.
 class BatchStep
 {
 public:
@@ -54,15 +82,26 @@ public:
     void keep();
 
 private:
-    store::Engine &m_engine;
+    friend class Batch;
+
+    void marque();
+    void surChaque(const QString &sql);
+
+    Session &m_session;
+    BatchStep *m_outer = nullptr;
+    int m_nivcour = 0;
     bool m_kept = false;
 };
 
 /// Runs the changes of one command as a batch. `work` stops at its first failure and says it. Then what
 /// stands is committed and the user is asked, in the words of the guards for a file that another workstation
-/// holds and of the disk for anything else: on Yes the whole command runs again, on No the process ends.
+/// holds and of the disk for a failure of the disk: on Yes the whole command runs again, on No the process
+/// ends. After a failure in which the engine gave the transaction up by itself nothing of the command stands,
+/// and its operation isn't in the ring. A failure that another try can't mend (a missing row, a key that is
+/// already there, a misuse) is told in a message, and the command is given up.
 /// A batch within a batch joins it: a wait that lets events run may start another command.
-void enLot(Session &session, const std::function<store::Status()> &work);
+/// Returns false when the command was given up.
+bool enLot(Session &session, const std::function<store::Status()> &work);
 
 /// A read transaction around a pass, so that the pass sees one state of the file and locks it once. Within
 /// a transaction it does nothing.

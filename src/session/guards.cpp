@@ -26,13 +26,13 @@ QString questionBloquage()
 
 void attendlibre(Session &session, store::TableBase &table, const QString &question, void (*pause)())
 {
-    for (;;) {
+    for (int attempt = 1;; ++attempt) {
         for (int i = 0; i < tours; ++i) {
             if (table.editMode() == store::EditMode::None) return;
             pause();
         }
         const Batch::Pause released(session.batch);
-        if (!session.host.question(question, titre)) session.host.endProcess();
+        if (!session.host.retry(question, titre, attempt)) session.host.endProcess();
         if (table.updatePending()) table.update().ignore();
     }
 }

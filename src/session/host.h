@@ -4,7 +4,8 @@
 #include <QDateTime>
 #include <QString>
 
-namespace velmora {
+namespace velmora
+{
 
 /// What the system asks of the machine and of the user. The windows give it a desktop implementation, the
 /// command line one that speaks on the standard streams, and the tests a script.
@@ -22,6 +23,14 @@ public:
     /// A modal question with the buttons Yes and No. True on Yes.
     [[nodiscard]] virtual bool question(const QString &text, const QString &title) = 0;
 
+    /// The same, to try again what has failed `attempt` times in a row. An answer given beforehand ends: the
+    /// cause may last for ever.
+    [[nodiscard]] virtual bool retry(const QString &text, const QString &title, int attempt)
+    {
+        static_cast<void>(attempt);
+        return question(text, title);
+    }
+
     /// Today's date and the moment now, in local time.
     [[nodiscard]] virtual QDate today() const = 0;
     [[nodiscard]] virtual QDateTime now() const = 0;
@@ -33,6 +42,9 @@ public:
     /// Ends the process at once, with no saving.
     [[noreturn]] virtual void endProcess() = 0;
 };
+
+/// Times that a fixed Yes tries the same thing again before it counts as No.
+inline constexpr int fixedRetries = 3;
 
 /// The default title of messages.
 inline const QString titre = QStringLiteral("velmora");

@@ -45,6 +45,11 @@ bool QtHost::question(const QString &text, const QString &title)
     return box.clickedButton() == oui;
 }
 
+bool QtHost::retry(const QString &text, const QString &title, int attempt)
+{
+    return !(m_options.answer && attempt > fixedRetries) && question(text, title);
+}
+
 QDate QtHost::today() const
 {
     return m_options.today.value_or(QDate::currentDate());

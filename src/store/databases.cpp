@@ -2,6 +2,7 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <chrono>
 
 namespace velmora::store
@@ -27,6 +28,13 @@ Status checkTables(Engine &engine, const std::vector<const Schema *> &schemas)
     return {};
 }
 
+Status checkNotForeign(Engine &engine)
+{
+    const std::int64_t mark = fileMark(engine);
+    if (mark == 0 || mark == static_cast<std::int64_t>(FileKind::Main)) return {};
+    return {Status::Code::NotADatabase, QStringLiteral("the file belongs to another program")};
+}
+
 Status checkStructure(Engine &engine)
 {
     const auto statement = engine.prepare(QStringLiteral("PRAGMA quick_check(1)"));
@@ -38,6 +46,12 @@ Status checkStructure(Engine &engine)
 }
 
 } // namespace
+
+std::int64_t fileMark(Engine &engine)
+{
+    const auto mark = engine.prepare(QStringLiteral("PRAGMA application_id"));
+    return mark && mark->step() == Statement::Step::Row ? mark->columnInt(0) : -1;
+}
 
 std::vector<const Schema *> MainDatabase::schemas()
 {
@@ -51,6 +65,7 @@ Status MainDatabase::open(const QString &path)
 {
     close();
     Status status = engine.open(path, {});
+    if (status.ok()) status = checkNotForeign(engine);
     if (status.ok()) status = checkTables(engine, schemas());
     if (status.ok()) status = engine.adopt();
     if (!status.ok()) close();
@@ -69,10 +84,17 @@ void MainDatabase::close()
     engine.close();
 }
 
-void MainDatabase::cancelUpdates()
+void MainDatabase::cancelUpdates(const std::vector<TableBase *> &kept)
 {
     for (TableBase *table : tables())
-        table->cancelUpdate();
+        if (std::find(kept.begin(), kept.end(), table) == kept.end()) table->cancelUpdate();
+}
+
+std::vector<TableBase *> MainDatabase::editing()
+{
+    std::vector<TableBase *> found = tables();
+    std::erase_if(found, [](const TableBase *table) { return table->editMode() == EditMode::None; });
+    return found;
 }
 
 std::vector<const Schema *> JournalDatabase::schemas()

@@ -31,11 +31,14 @@ struct MainDatabase {
     Table<CodeAbsence> codabs{engine};
     Table<Dossier> groupe{engine};
 
-    /// Opens the file and checks that every table is there with its columns.
+    /// Opens the file and checks that every table is there with its columns. A file with another program's
+    /// mark is refused.
     [[nodiscard]] Status open(const QString &path);
     void close();
-    /// Drops whatever change is under way on a table, as before a command runs again.
-    void cancelUpdates();
+    /// Drops whatever change is under way on a table but the kept ones, as before a command runs again.
+    void cancelUpdates(const std::vector<TableBase *> &kept = {});
+    /// The tables with a change under way.
+    [[nodiscard]] std::vector<TableBase *> editing();
     /// Every table of the file, the one that is only required to exist included.
     [[nodiscard]] static std::vector<const Schema *> schemas();
 
@@ -66,6 +69,9 @@ struct JournalDatabase {
 
 /// What marks a file as one of ours in its header.
 enum class FileKind : int { Main = 0x56454c42, Journal = 0x56454c4a };
+
+/// The mark in the header of an open file: a `FileKind`, 0 for none, -1 when it can't be read.
+[[nodiscard]] std::int64_t fileMark(Engine &engine);
 
 /// Makes a new, empty file with its tables and indexes. A file that is already there is left alone and is a
 /// failure; a file that can't be finished is removed.

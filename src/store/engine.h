@@ -56,8 +56,8 @@ struct OpenOptions {
 class Engine
 {
 public:
-    /// Read transactions give a pass one view of the file; write transactions take the write lock at once,
-    /// waiting for other sessions as long as the busy wait.
+    /// Read transactions give a pass one view of the file; write transactions take the file at once,
+    /// waiting for other sessions as long as the busy wait; whoever reads waits until they end.
     enum class Transaction { Read, Write };
 
     Engine() = default;

@@ -205,7 +205,8 @@ Status SqliteEngine::runKept(std::unique_ptr<Statement> &statement, const QStrin
 
 Status SqliteEngine::begin(Transaction kind)
 {
-    if (kind == Transaction::Write) return runKept(m_begin[1], QStringLiteral("BEGIN IMMEDIATE"));
+    // A commit must not meet a reader: what it waits for, it waits for here.
+    if (kind == Transaction::Write) return runKept(m_begin[1], QStringLiteral("BEGIN EXCLUSIVE"));
     return runKept(m_begin[0], QStringLiteral("BEGIN"));
 }
 

@@ -28,6 +28,14 @@ TEST(CommandHost, EndsWithStatus1AndSaysWhyOnlyWhenNothingWasSaid)
     EXPECT_EXIT(spoken(), testing::ExitedWithCode(1), "^le message\n$");
 }
 
+TEST(CommandHost, FixedYesTriesTheSameThingAgainThreeTimes)
+{
+    CliHost yes({}, true);
+    for (int attempt = 1; attempt <= 4; ++attempt)
+        EXPECT_EQ(yes.retry(QStringLiteral("réessayer ?"), {}, attempt), attempt <= 3);
+    EXPECT_TRUE(yes.refusee());
+}
+
 TEST(CommandHost, KeepsTheDateItWasGiven)
 {
     const CliHost host(QDate(2024, 2, 29), {});

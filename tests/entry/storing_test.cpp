@@ -2,6 +2,7 @@
 
 #include "entry/derivation.h"
 #include "entry/typed_entry.h"
+#include "support/faulty_engine.h"
 #include "support/workstation.h"
 
 namespace velmora::test
@@ -11,10 +12,13 @@ namespace
 
 using store::Cmp;
 
+const QString disque = QStringLiteral("Problème accès disque! réessayer ?");
+
 class StoringTest : public testing::Test
 {
 protected:
-    Workstation station;
+    Faults faults;
+    Workstation station{QDate(2026, 6, 15), std::make_unique<FaultyEngine>(faults)};
     Session &session = station.session;
 
     void SetUp() override { station.addLine(3, QStringLiteral("ANNE")); }
@@ -32,6 +36,15 @@ protected:
         session.base.sitper.setIndex("sitper01");
         EXPECT_TRUE(session.base.sitper.seek(Cmp::Eq, {3, date}));
         return session.base.sitper.row();
+    }
+
+    int operations()
+    {
+        int inForce = 0;
+        auto operations = session.journal.logop.range("logop01", {}, {});
+        while (operations.next())
+            inForce += operations.row().valop ? 1 : 0;
+        return inForce;
     }
 
     QStringList images()
@@ -95,17 +108,47 @@ TEST_F(StoringTest, LockedFileAsksAndTheSecondTryWritesEverything)
 TEST_F(StoringTest, FailureHalfwayKeepsTheDatesBeforeItAndRefusalEndsTheProcess)
 {
     station.addDay(3, QDate(2026, 6, 3), 600, 660);
-    // A trigger stands for a disk that fails on the third date.
-    ASSERT_TRUE(session.base.engine
-                    .execute(QStringLiteral("CREATE TRIGGER panne BEFORE INSERT ON sitper WHEN NEW.dat = "
-                                            "'2026-06-03' BEGIN SELECT RAISE(ABORT, 'panne'); END"))
-                    .ok());
-    station.host.expectQuestion(QStringLiteral("Problème accès disque! réessayer ?"), false);
+    // The third date's row is deleted, then its insertion fails.
+    faults.writesBefore = 3;
+    station.host.expectQuestion(disque, false);
     EXPECT_THROW(store(QDate(2026, 6, 1), QDate(2026, 6, 5), {"8h00", "12h00"}), ProcessEnded);
     EXPECT_EQ(session.base.sitper.recordCount(), 3);
     EXPECT_EQ(day(QDate(2026, 6, 2)).heurdeb, 480);
     EXPECT_EQ(day(QDate(2026, 6, 3)).heurdeb, 600);
     EXPECT_FALSE(session.base.engine.inTransaction());
+    EXPECT_EQ(images(), (QStringList{"1PA1", "1PA2"})) << "no image of the date that was taken back";
+}
+
+TEST_F(StoringTest, RetriedEntryIsOneOperationThatKnowsEveryRowItReplaced)
+{
+    for (const int date : {1, 2, 3})
+        station.addDay(3, QDate(2026, 6, date), 600, 660);
+    faults.writesBefore = 3;
+    station.host.expectQuestion(disque, true);
+    store(QDate(2026, 6, 1), QDate(2026, 6, 3), {"8h00", "12h00"});
+    EXPECT_EQ(operations(), 1);
+    EXPECT_EQ(images(), (QStringList{"1AD1", "1PA1", "1AD1", "1PA1", "1AD2", "1PA2", "1AD3", "1PA3"}));
+    ASSERT_TRUE(session.journal.sitlog.first());
+    EXPECT_EQ(session.journal.sitlog.row().jour.heurdeb, 600);
+}
+
+TEST_F(StoringTest, NothingOfAnEntryStandsWhenTheEngineGivesItsTransactionUp)
+{
+    store(QDate(2026, 6, 1), QDate(2026, 6, 1), {"6h00", "7h00"});
+    const std::function<void()> failures[] = {
+        [this] { faults.writesBefore = 3; }, // in the second date
+        [this] { faults.commitFails = true; },
+    };
+    faults.whenStruck = [this] { session.base.engine.rollback(); };
+    for (const auto &fail : failures) {
+        fail();
+        station.host.expectQuestion(disque, false);
+        EXPECT_THROW(store(QDate(2026, 6, 1), QDate(2026, 6, 3), {"8h00", "12h00"}), ProcessEnded);
+        EXPECT_EQ(session.base.sitper.recordCount(), 1);
+        EXPECT_EQ(operations(), 1);
+        EXPECT_EQ(images(), QStringList{"1PA1"});
+        EXPECT_EQ(session.opcour, 1);
+    }
 }
 
 } // namespace

@@ -163,10 +163,31 @@ TEST_F(GuardsTest, BatchWithinABatchJoinsIt)
 {
     enLot(session, [&] {
         enLot(session, [&] { return rename(QStringLiteral("EMMA B")); });
-        EXPECT_EQ(nameInFile(), QStringLiteral("EMMA"));
+        EXPECT_TRUE(session.base.engine.inTransaction());
         return Status{};
     });
     EXPECT_EQ(nameInFile(), QStringLiteral("EMMA B"));
+}
+
+TEST_F(GuardsTest, FailedBatchWithinABatchLeavesTheOuterOnesEdit)
+{
+    host.expectQuestion(disque, true);
+    enLot(session, [&] {
+        EXPECT_TRUE(ligmois.edit().ok());
+        ligmois.values().nom = QStringLiteral("EMMA B");
+        int essai = 0;
+        enLot(session, [&] { return ++essai == 1 ? Status{Status::Code::Full, {}} : Status{}; });
+        return ligmois.update();
+    });
+    EXPECT_EQ(nameInFile(), QStringLiteral("EMMA B"));
+}
+
+TEST_F(GuardsTest, FailureThatAnotherTryCantMendGivesTheCommandUp)
+{
+    for (const auto code : {Status::Code::NoRow, Status::Code::Constraint, Status::Code::Misuse}) {
+        host.expectMessage(QStringLiteral("Problème accès disque!"));
+        EXPECT_FALSE(enLot(session, [&] { return Status{code, {}}; }));
+    }
 }
 
 TEST_F(GuardsTest, StepIsKeptOrTakenBackWhole)

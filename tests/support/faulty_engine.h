@@ -2,6 +2,8 @@
 
 #include "store/sqlite_engine.h"
 
+#include <functional>
+
 namespace velmora::test
 {
 
@@ -10,7 +12,15 @@ struct Faults {
     int writesBefore = -1; ///< writes that still succeed before the one that fails; below 0 none fails
     store::Status status{store::Status::Code::Full, QStringLiteral("the disk is full")};
 
-    bool strike() { return writesBefore >= 0 && writesBefore-- == 0; }
+    std::function<void()> whenStruck{}; ///< what else the fault does, such as ending the transaction
+    bool commitFails = false;           ///< the next commit fails, once
+
+    bool strike()
+    {
+        const bool now = writesBefore >= 0 && writesBefore-- == 0;
+        if (now && whenStruck) whenStruck();
+        return now;
+    }
 };
 
 /// A statement that writes rows, unless a fault strikes.
@@ -61,6 +71,13 @@ public:
             sql.startsWith(u"INSERT") || sql.startsWith(u"UPDATE") || sql.startsWith(u"DELETE");
         if (!real || !writes) return real;
         return std::make_unique<FaultyStatement>(std::move(real), m_faults);
+    }
+
+    store::Status commit() override
+    {
+        if (!std::exchange(m_faults.commitFails, false)) return SqliteEngine::commit();
+        rollback();
+        return m_faults.status;
     }
 
 private:

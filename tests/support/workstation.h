@@ -14,7 +14,9 @@ namespace velmora::test
 class Workstation
 {
 public:
-    explicit Workstation(const QDate &today = QDate(2026, 6, 15)) : host(today), session(host)
+    explicit Workstation(const QDate &today = QDate(2026, 6, 15),
+                         std::unique_ptr<store::Engine> baseEngine = std::make_unique<store::SqliteEngine>())
+        : host(today), session(host, std::move(baseEngine), std::make_unique<store::SqliteEngine>())
     {
         create();
         open();
