@@ -25,16 +25,12 @@ using Refus = std::optional<QString>;
 /// Where everything of an installation lies.
 struct Lieux {
     explicit Lieux(const Installation &demande)
-        : dossierJournal(absolu(demande.journal)), dossierBase(absolu(demande.base)),
+        : dossierJournal(dossierAbsolu(demande.journal)), dossierBase(dossierAbsolu(demande.base)),
           journal(dossierJournal + store::fichierJournal), base(dossierBase + store::fichierBase),
           lien(dossierJournal + store::fichierBase), separes(!memeDossier(dossierJournal, dossierBase))
     {
     }
 
-    static QString absolu(const QString &dossier)
-    {
-        return avecSeparateur(QDir::cleanPath(QDir::current().absoluteFilePath(dossier)));
-    }
     static bool memeDossier(const QString &un, const QString &autre)
     {
         const QString canonique = QFileInfo(un).canonicalFilePath();

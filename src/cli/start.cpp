@@ -9,15 +9,19 @@
 namespace velmora::cli
 {
 
-QString causeArret(const QString &cheminjournal)
+QString causeArret(const Session &session)
 {
-    const QFileInfo base(cheminjournal + store::fichierBase);
+    using Code = store::Status::Code;
+    const Code code = session.echecBase.code();
+    const QFileInfo base(session.cheminjournal + store::fichierBase);
     if (!base.exists()) {
         return QStringLiteral("Le fichier %1 n'existe pas : « velmora init » avec les dossiers du journal et "
                               "de la base rattache ce poste.")
             .arg(base.filePath());
     }
-    if (!base.isWritable())
+    if (code == Code::Busy)
+        return QStringLiteral("Le fichier %1 est tenu par un autre poste.").arg(base.filePath());
+    if (code == Code::Full || code == Code::Io || !base.isWritable())
         return QStringLiteral("Le fichier %1 ne peut pas être écrit.").arg(base.filePath());
     return QStringLiteral("Le fichier %1 n'est pas une base de données de Velmora que l'on puisse ouvrir.")
         .arg(base.filePath());
@@ -26,7 +30,7 @@ QString causeArret(const QString &cheminjournal)
 int surSession(const Appel &appel, const std::function<int(Session &)> &travail)
 {
     Velmoral velmoral(appel.host, Velmoral::Demarrage::ParLanceur, [](Session &) {});
-    appel.host.siMuette([&velmoral] { return causeArret(velmoral.session().cheminjournal); });
+    appel.host.siMuette([&velmoral] { return causeArret(velmoral.session()); });
     velmoral.ini(appel.poste.pseudo, appel.poste.journal, appel.poste.base);
     appel.host.siMuette({});
     return velmoral.demarree() ? travail(velmoral.session()) : refuse;

@@ -10,8 +10,8 @@ namespace velmora::cli
 /// the start stops on a message. A database that doesn't open ends the process with status 1.
 int surSession(const Appel &appel, const std::function<int(Session &)> &travail);
 
-/// Why a start found no main database, in one sentence.
-[[nodiscard]] QString causeArret(const QString &cheminjournal);
+/// Why a start whose journal stands stopped on the main database, in one sentence.
+[[nodiscard]] QString causeArret(const Session &session);
 
 /// Puts `ligmois` on the line of a number as typed. False when the text is no number or there is no such
 /// line.

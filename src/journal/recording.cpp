@@ -105,7 +105,7 @@ template <class Image> void purgeImages(Session &session, store::Table<Image> &i
 {
     bool found = images.seek(Cmp::Ge, {numop});
     while (found && images.row().rang.numop == numop) {
-        if (!supprgarde(session, images).ok()) return;
+        supprgarde(session, images).ignore();
         found = images.next();
     }
 }
@@ -128,7 +128,7 @@ void ajouteImage(Session &session, store::Table<Image> &images, const QString &a
 void imagesit(Session &session, const QString &avap, const QString &foncop)
 {
     ajouteImage(session, session.journal.sitlog, avap, foncop, [&](ImageSit &image) {
-        image.jour = session.base.sitper.row();
+        image.jour = session.base.sitper.current();
         // Recording never fills this field, so that a replay writes its empty value. Wanted.
         image.jour.babs = false;
     });
@@ -137,7 +137,7 @@ void imagesit(Session &session, const QString &avap, const QString &foncop)
 void imageabs(Session &session, const QString &avap, const QString &foncop)
 {
     ajouteImage(session, session.journal.logabs, avap, foncop,
-                [&](ImageAbs &image) { image.absence = session.base.absences.row(); });
+                [&](ImageAbs &image) { image.absence = session.base.absences.current(); });
 }
 
 } // namespace
@@ -147,10 +147,12 @@ int ecritop(Session &session, const QString &ficop, const QString &libop)
     if (ficop == ficopRemise) return remetAnneau(session);
     auto &logop = session.journal.logop;
     session.peutannul = true;
-    if (!logop.first()) return session.opcour = 0;
-    const int annulees = logop.row().ordop;
-    avanceTete(session, annulees);
-    const int prise = prendCase(session, annulees, ficop, libop);
+    int prise = 0;
+    if (logop.first()) {
+        const int annulees = logop.row().ordop;
+        avanceTete(session, annulees);
+        prise = prendCase(session, annulees, ficop, libop);
+    }
     purgeop(session, prise);
     if (!session.collage) videsitco(session);
     session.nivcour = 0;
@@ -236,10 +238,15 @@ Status valsit(Session &session, int nump, const QDate &premier, const QDate &der
             continue;
         }
         Status status = editgarde(session, sitper);
-        if (!status.ok()) return status;
-        sitper.values().Val = valeur;
-        status = sitper.update();
-        if (!status.ok()) return status;
+        if (status.ok()) {
+            sitper.values().Val = valeur;
+            status = sitper.update();
+        }
+        // A row that went meanwhile needs no value.
+        if (status.code() == Status::Code::NoRow)
+            sitper.cancelUpdate();
+        else if (!status.ok())
+            return status;
     }
     return {};
 }

@@ -15,7 +15,7 @@ inline const QString ficopRemise = QStringLiteral("?");
 /// then does nothing.
 int ecritop(Session &session, const QString &ficop, const QString &libop);
 
-/// Empties a slot's images.
+/// Empties a slot's images. One that can't be deleted stays, and the rest goes.
 void purgeop(Session &session, int numop);
 
 // Guarded changes of `sitper`, recorded as row images. Each returns the failure of the planning's own row;
@@ -37,7 +37,7 @@ void purgeop(Session &session, int numop);
 [[nodiscard]] store::Status majabs(Session &session);
 
 /// Sets `Val` on the rows of a line from one date to another, both included. It records no image: an
-/// absence's images bring the effect back when they are replayed.
+/// absence's images bring the effect back when they are replayed. A row deleted meanwhile is passed.
 [[nodiscard]] store::Status valsit(Session &session, int nump, const QDate &premier, const QDate &dernier,
                                    bool valeur);
 

@@ -64,7 +64,7 @@ int ouvreFenetre(const cli::Poste &poste)
         fenetre->charge();
         fenetre->show();
     });
-    host.siMuette = [&velmoral] { return cli::causeArret(velmoral.session().cheminjournal); };
+    host.siMuette = [&velmoral] { return cli::causeArret(velmoral.session()); };
     velmoral.ini(poste.pseudo, poste.journal, poste.base);
     host.siMuette = {};
     return velmoral.demarree() ? QApplication::exec() : cli::refuse;

@@ -3,12 +3,10 @@
 #include "session/batch.h"
 #include "session/guards.h"
 #include "session/records.h"
+#include "session/velmoral.h"
 #include "store/repair.h"
 
-#include <QFile>
 #include <QFileInfo>
-
-#include <filesystem>
 
 namespace velmora
 {
@@ -41,7 +39,7 @@ Status lieBase(Session &session)
 {
     auto &chemin = session.journal.chemin;
     if (chemin.first()) {
-        session.cheminbase = chemin.row().chemin;
+        session.cheminbase = avecSeparateur(chemin.row().chemin);
         return {};
     }
     if (!chemin.status().ok()) return chemin.status();
@@ -95,14 +93,12 @@ Liaison ouvreLiaison(Session &session)
     return prepareJournal(session).ok() ? Liaison::Etablie : Liaison::Echec;
 }
 
-/// Puts a file in the place of another, whole or not at all. An unfinished transaction of the old content
-/// goes with it.
-bool remplaceFichier(const QString &source, const QString &cible)
+bool refuseJournal(Session &session)
 {
-    QFile::remove(cible + QStringLiteral("-journal"));
-    std::error_code erreur;
-    std::filesystem::rename(source.toStdString(), cible.toStdString(), erreur);
-    return !erreur;
+    session.journal.close();
+    return refuse(session, QStringLiteral("Velmora ne peut ouvrir la base de données ") +
+                               session.cheminjournal +
+                               QStringLiteral("velmoralog.mdb, relancez l'application!"));
 }
 
 /// The repair works on the file of the second folder and the reopening takes that of the first, a
@@ -111,15 +107,12 @@ bool reparelog(Session &session)
 {
     const QString endommage = session.cheminbase + store::fichierJournal;
     const QString neuf = session.cheminbase + store::fichierReparation;
-    const bool repare = store::salvageJournal(endommage, neuf).ok() && remplaceFichier(neuf, endommage);
-    if (repare && session.journal.open(session.cheminjournal + store::fichierJournal).ok()) {
+    if (store::repairJournal(endommage, neuf).ok() &&
+        session.journal.open(session.cheminjournal + store::fichierJournal).ok()) {
         const Liaison liaison = ouvreLiaison(session);
         if (liaison != Liaison::Echec) return liaison == Liaison::Etablie;
     }
-    session.journal.close();
-    return refuse(session, QStringLiteral("Velmora ne peut ouvrir la base de données ") +
-                               session.cheminjournal +
-                               QStringLiteral("velmoralog.mdb, relancez l'application!"));
+    return refuseJournal(session);
 }
 
 Status ajouteTnum(Session &session)
@@ -157,18 +150,22 @@ bool ouvrejournal(Session &session)
                                    store::fichierJournal +
                                    QStringLiteral(" non retrouvée ! relancer Velmora"));
     }
-    if (!session.journal.open(fichier).ok()) return reparelog(session);
+    const Status ouvert = session.journal.open(fichier);
+    // Another session's journal needs no repair.
+    if (ouvert.code() == Status::Code::Busy) return refuseJournal(session);
+    if (!ouvert.ok()) return reparelog(session);
     const Liaison liaison = ouvreLiaison(session);
-    if (liaison == Liaison::Echec) session.journal.close();
-    return liaison == Liaison::Etablie;
+    return liaison == Liaison::Echec ? refuseJournal(session) : liaison == Liaison::Etablie;
 }
 
 bool ouvrebase(Session &session)
 {
     session.urlaide = QStringLiteral("https://aide.velmora.example/calcul-des-heures/");
-    if (!session.base.open(session.cheminjournal + store::fichierBase).ok()) return false;
-    if (!prepareTnum(session).ok()) return false;
-    return session.base.agent.first() || session.base.agent.status().ok();
+    Status &echec = session.echecBase;
+    echec = session.base.open(session.cheminjournal + store::fichierBase);
+    if (echec.ok()) echec = prepareTnum(session);
+    if (echec.ok() && !session.base.agent.first()) echec = session.base.agent.status();
+    return echec.ok();
 }
 
 void videsitco(Session &session)

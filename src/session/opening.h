@@ -6,12 +6,13 @@ namespace velmora
 {
 
 /// Opens the journal and ties the session to its main database: takes `cheminbase` from the journal, readies
-/// the ring and empties the clipboard. A journal that won't open is repaired once. False, after a message,
+/// the ring and empties the clipboard. A journal that won't open is repaired once, unless another session has
+/// it. False, after a message,
 /// when the session can't go on.
 [[nodiscard]] bool ouvrejournal(Session &session);
 
 /// Opens the main database and its tables; gives an empty `tnum` its row. False without a message on any
-/// failure.
+/// failure, which `echecBase` keeps.
 ///
 /// The file is opened under `cheminjournal`, while `ouvrejournal` has looked for it under `cheminbase`: the
 /// two folders are kept apart on purpose.

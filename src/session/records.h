@@ -14,15 +14,12 @@ namespace velmora
 /// Puts `parcg` on the set in force at the date, or failing that on the oldest set.
 void jeuaudate(Session &session, const QDate &date);
 
-/// Deletes every row of a table, from the first to the end. A row that another workstation deletes meanwhile
-/// is passed; any other failure stops the walk.
+/// Deletes every row of a table, from the first to the end. A row that can't be deleted is passed.
+/// A walk that fails to step on ends.
 template <class Row> void videtable(Session &session, store::Table<Row> &table)
 {
-    using Code = store::Status::Code;
-    for (bool found = table.first(); found; found = table.next()) {
-        const Code code = supprgarde(session, table).code();
-        if (code != Code::Ok && code != Code::NoRow) return;
-    }
+    for (bool found = table.first(); found; found = table.next())
+        supprgarde(session, table).ignore();
 }
 
 /// The absence of a line that covers a date, or null: the last span that begins on or before the date, else

@@ -76,7 +76,8 @@ struct Session {
     std::unique_ptr<Foncgen> foncgen;
     store::MainDatabase base;
     store::JournalDatabase journal;
-    Batch *batch = nullptr; ///< the command's transaction while one runs
+    store::Status echecBase; ///< why the main database didn't open
+    Batch *batch = nullptr;  ///< the command's transaction while one runs
 };
 
 } // namespace velmora

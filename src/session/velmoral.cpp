@@ -3,7 +3,11 @@
 #include "session/opening.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QRegularExpression>
 #include <QStandardPaths>
+
+#include <cmath>
 
 namespace velmora
 {
@@ -44,11 +48,11 @@ QDate datemax(const QDate &today)
 int valeurMes(const QString &mes)
 {
     if (mes.isNull()) return mesParDefaut;
-    const QString texte = mes.trimmed();
-    qsizetype longueur = texte.startsWith(QLatin1Char('-')) || texte.startsWith(QLatin1Char('+')) ? 1 : 0;
-    while (longueur < texte.size() && texte[longueur] >= u'0' && texte[longueur] <= u'9')
-        ++longueur;
-    return static_cast<qint16>(texte.first(longueur).toLongLong());
+    static const QRegularExpression nombre(
+        QStringLiteral("^\\s*[+-]?([0-9]+[.]?[0-9]*|[.][0-9]+)([eE][+-]?[0-9]+)?"));
+    const double valeur = nombre.match(mes).captured().trimmed().toDouble();
+    constexpr double tour = 65536;
+    return static_cast<qint16>(static_cast<int>(std::isfinite(valeur) ? std::fmod(valeur, tour) : 0));
 }
 
 bool identifie(Session &session)
@@ -73,8 +77,8 @@ Velmoral::Velmoral(Host &host, Demarrage demarrage, std::function<void(Session &
 void Velmoral::ini(const QString &pseudo, const QString &premierChemin, const QString &secondChemin)
 {
     m_session.pseudo = pseudo;
-    m_session.cheminjournal = avecSeparateur(premierChemin);
-    m_session.cheminbase = avecSeparateur(secondChemin);
+    m_session.cheminjournal = dossierAbsolu(premierChemin);
+    m_session.cheminbase = dossierAbsolu(secondChemin);
     demarre();
 }
 
@@ -116,6 +120,12 @@ QString dossierIntegre()
 {
     return avecSeparateur(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
                           QStringLiteral("/velmora"));
+}
+
+QString dossierAbsolu(const QString &dossier)
+{
+    if (dossier.isEmpty()) return dossier;
+    return avecSeparateur(QDir::cleanPath(QDir::current().absoluteFilePath(dossier)));
 }
 
 QString avecSeparateur(const QString &dossier)

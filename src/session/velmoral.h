@@ -15,7 +15,8 @@ inline const QString pseudoIntegre = QStringLiteral("QZX");
 /// 31 December of the year of (today plus 365 days).
 [[nodiscard]] QDate datemax(const QDate &today);
 
-/// `agent`'s `mes` as the session holds it: 2 for a null, else the number that the text begins with.
+/// `agent`'s `mes` as the session holds it: 2 for a null, else the longest decimal number that the text
+/// begins with, a power of ten included, truncated to 16 bits; 0 for none.
 [[nodiscard]] int valeurMes(const QString &mes);
 
 /// Finds the session's user, leaves `agent` on the row and reads it. The built-in user is accepted with the
@@ -37,7 +38,7 @@ public:
 
     /// Stores who and where and runs the start: dates, journal, main database, login, main window. A
     /// database that doesn't open ends the process; an unknown user gets a message and nothing opens.
-    /// Folders may come with or without their trailing separator.
+    /// Folders may come with or without their trailing separator, and relative to the process's own.
     void ini(const QString &pseudo, const QString &premierChemin, const QString &secondChemin);
 
     // Inert on purpose: both act on a form that nothing ever sets, and so always fail. Launchers call them.
@@ -64,6 +65,10 @@ private:
 
 /// The folder of a stand-alone run: the user's own data folder, with its trailing separator.
 [[nodiscard]] QString dossierIntegre();
+
+/// A folder as a session keeps it: whole, since the process may change its own folder, without "." and "..",
+/// and with its trailing separator. Empty stays empty.
+[[nodiscard]] QString dossierAbsolu(const QString &dossier);
 
 /// A folder with its trailing separator; empty stays empty.
 [[nodiscard]] QString avecSeparateur(const QString &dossier);

@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <filesystem>
+
 namespace velmora::store
 {
 
@@ -13,29 +15,28 @@ namespace
 
 constexpr std::chrono::milliseconds lockWait{300};
 
-/// A file that carries the journal's mark, however damaged the rest is. The engine reads it: opening the file
-/// beside the engine would let go of the locks that a session of this process may hold on it.
+/// A file whose header carries the journal's mark, however damaged the rest is. The engine reads it: opening
+/// the file beside the engine would let go of the locks that a session of this process may hold on it.
 Status checkMark(Engine &engine)
 {
-    const auto mark = engine.prepare(QStringLiteral("PRAGMA application_id"));
-    if (mark && mark->step() == Statement::Step::Row &&
-        mark->columnInt(0) == static_cast<std::int64_t>(FileKind::Journal))
-        return {};
+    if (fileMark(engine) == static_cast<std::int64_t>(FileKind::Journal)) return {};
     return {Status::Code::NotADatabase, QStringLiteral("the file is no journal")};
 }
 
-/// Opens the damaged file while no other session has it, and begins to read it. A repair would put a file
+/// Opens the damaged file while no other session has it, and keeps it to this one. A repair would put a file
 /// that can be written in the place of one that can't, so that one is refused.
 Status openDamaged(SqliteEngine &engine, const QString &path)
 {
     if (QFileInfo(path).isFile() && !QFileInfo(path).isWritable())
         return {Status::Code::ReadOnly, QStringLiteral("the file can't be written")};
-    Status status = engine.open(path, {.readOnly = true, .damaged = true, .busyWait = lockWait});
+    Status status = engine.open(path, {.damaged = true, .busyWait = lockWait});
     if (status.ok()) status = checkMark(engine);
     if (!status.ok()) return status;
-    // Damage that shows here is no obstacle, a lock is.
+    // Damage that shows here is no obstacle, a lock is. Only a connection with the right to write gets a lock
+    // that keeps others out; that it writes nothing is said once it has it.
     status = engine.execute(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE"));
-    return status.code() == Status::Code::Busy ? status : Status{};
+    if (status.code() == Status::Code::Busy) return status;
+    return engine.execute(QStringLiteral("PRAGMA query_only = ON"));
 }
 
 void copyRow(const Statement &from, Statement &to, int columns)
@@ -106,18 +107,31 @@ Status salvageInto(Engine &damaged, const QString &target)
     return status;
 }
 
+/// Puts a file in the place of another, whole or not at all. An unfinished transaction of the old content
+/// goes with it.
+Status replaceFile(const QString &source, const QString &target)
+{
+    std::error_code error;
+    std::filesystem::rename(QFile::encodeName(source).toStdString(), QFile::encodeName(target).toStdString(),
+                            error);
+    if (error) return {Status::Code::Io, QString::fromStdString(error.message())};
+    QFile::remove(target + QStringLiteral("-journal"));
+    return {};
+}
+
 } // namespace
 
-Status salvageJournal(const QString &damaged, const QString &target)
+Status repairJournal(const QString &damaged, const QString &work)
 {
     SqliteEngine engine;
     Status status = openDamaged(engine, damaged);
     if (!status.ok()) return status;
-    QFile::remove(target);
-    status = createDatabase(target, FileKind::Journal);
-    if (status.ok()) status = salvageInto(engine, target);
-    engine.execute(QStringLiteral("ROLLBACK")).ignore();
-    if (!status.ok()) QFile::remove(target);
+    QFile::remove(work);
+    status = createDatabase(work, FileKind::Journal);
+    if (status.ok()) status = salvageInto(engine, work);
+    if (status.ok()) status = replaceFile(work, damaged);
+    engine.rollback();
+    if (!status.ok()) QFile::remove(work);
     return status;
 }
 

@@ -7,9 +7,11 @@
 namespace velmora::store
 {
 
-/// Saves what can be read of a damaged journal file into a new file beside it: each table is read forwards
-/// and then backwards up to the damage. A file that another session holds, or that isn't a journal of this
-/// system, is not touched and is a failure; so is a target that can't be written.
-[[nodiscard]] Status salvageJournal(const QString &damaged, const QString &target);
+/// Puts in the place of a damaged journal file a new one with what can be read of it: each table is read
+/// forwards and then backwards up to the damage. The new file is made under `work`, in the same folder, and
+/// takes the place of the old one whole or not at all, while the old one is locked. A file that another
+/// session holds, that can't be written or that isn't a journal of this system is a failure and keeps its
+/// content, but for an unfinished transaction, which the engine undoes as at any opening.
+[[nodiscard]] Status repairJournal(const QString &damaged, const QString &work);
 
 } // namespace velmora::store

@@ -1,4 +1,5 @@
 #include "cli/program.h"
+#include "cli/start.h"
 
 using namespace velmora;
 using namespace velmora::test;
@@ -28,6 +29,13 @@ void makeForeign(const Program &program)
     ASSERT_TRUE(engine.execute(QStringLiteral("CREATE TABLE autre (x)")).ok());
 }
 
+void mark(const Program &program)
+{
+    store::SqliteEngine engine;
+    ASSERT_TRUE(engine.open(program.base(), {}).ok());
+    ASSERT_TRUE(engine.execute(QStringLiteral("PRAGMA application_id = 7")).ok());
+}
+
 const QList<Fault> &faults()
 {
     static const QList<Fault> all{
@@ -39,6 +47,7 @@ const QList<Fault> &faults()
          QStringLiteral("n'est pas une base de données de Velmora")},
         {"base empty", [](const Program &p) { writeFile(p.base(), {}); },
          QStringLiteral("n'est pas une base de données de Velmora")},
+        {"base marked by another program", mark, QStringLiteral("n'est pas une base de données de Velmora")},
         {"base foreign", makeForeign, QStringLiteral("n'est pas une base de données de Velmora")},
     };
     return all;
@@ -61,6 +70,18 @@ TEST(CommandStart, TellsWhyNothingOpensAndChangesNothing)
         EXPECT_TRUE(run.err.contains(fault.words)) << fault.name << run.err.toStdString();
         EXPECT_EQ(program.fingerprint(), before) << fault.name;
     }
+}
+
+TEST(CommandStart, NamesTheOtherWorkstationThatHoldsTheBase)
+{
+    const Program program;
+    ASSERT_EQ(program({"init"}).status, 0);
+    cli::CliHost host({}, {});
+    Session session(host);
+    session.cheminjournal = program.folder() + QLatin1Char('/');
+    session.echecBase = {store::Status::Code::Busy, {}};
+    EXPECT_EQ(cli::causeArret(session),
+              QStringLiteral("Le fichier %1 est tenu par un autre poste.").arg(program.base()));
 }
 
 TEST(CommandStart, RefusesAUserWhoseCaseDiffers)

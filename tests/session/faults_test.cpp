@@ -103,6 +103,7 @@ TEST_F(FaultsTest, FailureToReadyTheRingStopsTheStart)
     fresh.give(other);
     for (const int write : {0, 1, 20}) {
         faults.writesBefore = write;
+        host.expectMessage(journalInouvrable(fresh.path()));
         EXPECT_FALSE(ouvrejournal(other)) << write;
     }
     faults.writesBefore = -1;

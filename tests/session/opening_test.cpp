@@ -48,7 +48,8 @@ TEST_F(OpeningTest, JournalsFolderWinsOverTheOneGiven)
 {
     const QTemporaryDir elsewhere;
     const QString named = elsewhere.path() + QLatin1Char('/');
-    RawSqlite(folder.journalFile()).run(QStringLiteral("INSERT INTO chemin VALUES (1, 2, '%1')").arg(named));
+    RawSqlite(folder.journalFile())
+        .run(QStringLiteral("INSERT INTO chemin VALUES (1, 2, '%1')").arg(elsewhere.path()));
     Session session(host);
     folder.give(session);
     host.expectMessage(sansBase(named));

@@ -2,6 +2,7 @@
 #include "session/opening.h"
 
 #include "journal/recording.h"
+#include "store/repair.h"
 #include "support/data_folder.h"
 #include "support/other_process.h"
 #include "support/raw_sqlite.h"
@@ -145,6 +146,18 @@ TEST_F(RecoveryTest, RepairWorksInTheSecondFolderAndReopensTheFirst)
     host.expectMessage(journalInouvrable(folder.path()));
     EXPECT_FALSE(ouvrejournal(session));
     EXPECT_EQ(digest(folder.journalFile()), damaged);
+}
+
+TEST_F(RecoveryTest, JournalThatAnotherProgramReadsIsNotRepaired)
+{
+    const QByteArray before = digest(folder.journalFile());
+    {
+        RawSqlite reader(folder.journalFile());
+        ASSERT_TRUE(reader.run(QStringLiteral("BEGIN; SELECT count(*) FROM logop")));
+        EXPECT_EQ(store::repairJournal(folder.journalFile(), folder.path() + store::fichierReparation).code(),
+                  store::Status::Code::Busy);
+    }
+    EXPECT_EQ(digest(folder.journalFile()), before);
 }
 
 TEST_F(RecoveryTest, RepairedJournalOfAMissingBaseSaysOnlyThat)

@@ -1,5 +1,7 @@
 #include "session/velmoral.h"
 
+#include <QDir>
+
 #include "support/data_folder.h"
 #include "support/raw_sqlite.h"
 #include "support/scripted_host.h"
@@ -31,6 +33,14 @@ TEST(DateWindowTest, RunsFromJanuaryToDecemberOfTheYearsAYearAway)
     }
 }
 
+TEST(FolderTest, IsKeptWholeAndSeparated)
+{
+    const QString here = QDir::currentPath() + QLatin1Char('/');
+    EXPECT_EQ(dossierAbsolu(QStringLiteral("./a/../b")), here + QStringLiteral("b/"));
+    EXPECT_EQ(dossierAbsolu(QStringLiteral(".")), here);
+    EXPECT_EQ(dossierAbsolu(QString()), QString());
+}
+
 TEST(LoginTest, MesIsTheNumberThatItsTextBeginsWith)
 {
     const std::pair<QString, int> cases[] = {
@@ -42,6 +52,10 @@ TEST(LoginTest, MesIsTheNumberThatItsTextBeginsWith)
         {QStringLiteral(""), 0},
         {QStringLiteral("x3"), 0},
         {QStringLiteral("70000"), 4464},
+        {QStringLiteral("1e2x"), 100},
+        {QStringLiteral("-.5"), 0},
+        {QStringLiteral("2e"), 2},
+        {QString(400, u'9'), 0},
     };
     for (const auto &[text, expected] : cases)
         EXPECT_EQ(valeurMes(text), expected) << text.toStdString();
