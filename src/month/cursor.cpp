@@ -52,6 +52,13 @@ void entreCellule(Planning &planning)
     planning.rowprec = curseur.ligne;
 }
 
+bool jourDeLigne(const Planning &planning)
+{
+    const Ligne &ligne = planning.session.base.ligmois.row();
+    const QDate date = planning.date(planning.curseur.colonne);
+    return planning.grille.estLigne(planning.curseur.ligne) && date >= ligne.datedeb && date <= ligne.datefin;
+}
+
 int premierJourVisible(const Planning &planning)
 {
     for (int colonne = planning.premiereColonne(); colonne < planning.grille.colonnes(); ++colonne)

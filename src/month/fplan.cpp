@@ -6,13 +6,17 @@
 #include "month/loading.h"
 #include "month/refresh.h"
 #include "month/rows.h"
+#include "month/selection.h"
 #include "month/twips.h"
 #include "session/help.h"
 #include "session/opening.h"
+#include "session/records.h"
+#include "workstation/controls.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QProgressBar>
 
 #include <chrono>
@@ -35,12 +39,9 @@ constexpr int margeHauteur = 100;
 // The progress bar's maximum is the count of lines and this.
 constexpr int margeProgres = 5;
 constexpr int lignesEntreRepaints = 32;
-
-template <class Widget> Widget *nomme(Widget *widget, const char *nom)
-{
-    widget->setObjectName(QLatin1String(nom));
-    return widget;
-}
+// Keys that begin the entry of a code in a cell.
+constexpr ushort premiereTouche = 47;
+constexpr ushort derniereTouche = 122;
 
 /// The entry of the menus that each button of the toolbar stands for.
 const QHash<Bouton, QString> &commandesBoutons()
@@ -60,7 +61,8 @@ Fplan::Fplan(Session &session, QWidget *parent)
       m_menus(this), m_label1(nomme(new QLabel(QStringLiteral("Planning"), this), "Label1")),
       m_dossier(nomme(new QLabel(this), "dossier")), m_date(nomme(new QLabel(this), "date")),
       m_statut(nomme(new QLabel(this), "statut")), m_pgb(nomme(new QProgressBar(this), "Pgb")),
-      m_mg(new VueGrille(m_planning, this))
+      m_mg(new VueGrille(m_planning, this)), m_code(new SaisieCode(m_mg->viewport(), this)),
+      m_maca(nomme(new QMenu(this), "maca"))
 {
     setObjectName(QStringLiteral("Fplan"));
     setWindowTitle(QStringLiteral("Planning mois"));
@@ -94,6 +96,7 @@ void Fplan::construit()
     colonne->setContentsMargins(6, 4, 6, 4);
     colonne->addLayout(titres);
     colonne->addWidget(m_mg, 1);
+    colonne->addWidget(m_code->frame2());
     colonne->addLayout(etat);
 }
 
@@ -129,14 +132,52 @@ void Fplan::relie()
     connect(&m_timer1, &QTimer::timeout, this, &Fplan::charge);
     connect(&m_timer2, &QTimer::timeout, this, &Fplan::rafraichit);
     connect(&m_timer3, &QTimer::timeout, this, &Fplan::execute);
-    connect(m_mg, &VueGrille::caseAtteinte, this, [this] {
-        entreCellule(m_planning);
-        m_mg->suitCurseur();
-        m_timer2.start(apresEvenement);
+    relieGrille();
+    relieMenus();
+}
+
+void Fplan::relieGrille()
+{
+    connect(m_mg, &VueGrille::gesteCommence, &m_timer2, &QTimer::stop);
+    connect(m_mg, &VueGrille::caseQuittee, this, [this] {
+        if (m_planning.selection.selact) selvide(m_planning);
     });
+    connect(m_mg, &VueGrille::caseAtteinte, this, &Fplan::celluleAtteinte);
+    connect(m_mg, &VueGrille::selectionFinie, this, &Fplan::celluleAtteinte);
     connect(m_mg, &VueGrille::doubleClic, this, &Fplan::saisitHeures);
     connect(m_mg, &VueGrille::touche, this, &Fplan::touchePressee);
-    relieMenus();
+    connect(m_mg, &VueGrille::menuDemande, this, &Fplan::montreMenuGrille);
+    connect(m_code, &SaisieCode::codeTape, this, &Fplan::verifieCode);
+    connect(m_code, &SaisieCode::abandon, this, &Fplan::finitCode);
+}
+
+void Fplan::lanceCycle()
+{
+    m_timer2.start(apresEvenement);
+}
+
+void Fplan::celluleAtteinte()
+{
+    entreCellule(m_planning);
+    m_mg->suitCurseur();
+    lanceCycle();
+}
+
+/// Puts `ligmois` on the line of the current cell: the refresh cycle may not have run since the last move.
+void Fplan::positionneLigne()
+{
+    m_session.base.ligmois.setIndex("ligmois01");
+    m_session.base.ligmois.seek(store::Cmp::Eq, {m_planning.grille.numligne(m_planning.curseur.ligne)});
+}
+
+void Fplan::refaitLigne(int ligne)
+{
+    majligne(m_planning, m_planning.grille.numligne(ligne), ligne);
+}
+
+void Fplan::montreMenuGrille(const QPoint &point)
+{
+    if (m_maca->isEnabled() && !m_maca->isEmpty()) m_maca->popup(point);
 }
 
 void Fplan::relieMenus()
@@ -212,37 +253,76 @@ void Fplan::execute()
 void Fplan::saisitHeures()
 {
     m_timer2.stop();
+    m_timer3.stop();
     const Place place = m_planning.curseur;
-    if (!m_planning.grille.estLigne(place.ligne)) return;
+    if (!m_planning.grille.estLigne(place.ligne)) return lanceCycle();
     const int nump = m_planning.grille.numligne(place.ligne);
-    m_session.base.ligmois.setIndex("ligmois01");
-    const QString &nom = m_planning.grille.lit(place.ligne, Grille::colonneNom).texte;
-    if (m_session.base.ligmois.seek(store::Cmp::Eq, {nump}) &&
-        prepareSaisie(m_session, nom, nump, m_planning.date(place.colonne))) {
+    const Selection &selection = m_planning.selection;
+    const auto fin = selection.selact ? std::optional(m_planning.date(selection.selfin)) : std::nullopt;
+    positionneLigne();
+    if (prepareSaisie(m_session, m_planning.grille.lit(place.ligne, Grille::colonneNom).texte, nump,
+                      m_planning.date(place.colonne), fin)) {
         m_planning.suivi = false;
         Partielm dialogue(
             m_session,
             [this](const JourneeSaisie &journee, const JourSit &jour) { ecrihor(m_session, journee, jour); },
             this);
         dialogue.exec();
-        majligne(m_planning, nump, place.ligne);
+        refaitLigne(place.ligne);
     }
-    m_timer2.start(apresEvenement);
+    lanceCycle();
 }
 
 void Fplan::touchePressee(const QString &texte)
 {
     m_timer2.stop();
+    positionneLigne();
+    const ushort code = texte.front().unicode();
     if (texte == QLatin1String("*"))
         saisitHeures();
+    else if (code >= premiereTouche && code <= derniereTouche && jourDeLigne(m_planning))
+        commenceCode(texte);
     else
-        m_timer2.start(apresEvenement);
+        lanceCycle();
+}
+
+void Fplan::commenceCode(const QString &touche)
+{
+    const Place place = m_planning.curseur;
+    m_planning.suivi = false;
+    m_mg->setEnabled(false);
+    m_menus.permetMenus(false);
+    m_maca->setEnabled(false);
+    emit commandsChanged(ToolbarState::onRefresh(m_planning.commandes).allOff());
+    m_code->commence(m_mg->rectCurseur(), touche,
+                     m_planning.grille.lit(place.ligne, Grille::colonneNom).texte +
+                         QStringLiteral("  à dater ") + Foncgen::dtoc(m_planning.date(place.colonne)));
+}
+
+void Fplan::verifieCode(const QString &code)
+{
+    if (cherchecode(m_session, code)) {
+        m_session.abscode = code;
+        return finitCode();
+    }
+    m_session.host.message(QStringLiteral("code Absence non autorisé ou erroné!"), titre);
+    m_code->recommence();
+}
+
+void Fplan::finitCode()
+{
+    m_code->termine();
+    m_mg->setEnabled(true);
+    m_menus.permetMenus(true);
+    m_maca->setEnabled(true);
+    m_planning.suivi = true;
+    lanceCycle();
 }
 
 void Fplan::choisitTotaux(bool centiemes)
 {
     choisitCentiemes(m_planning, centiemes);
-    m_timer2.start(apresEvenement);
+    lanceCycle();
 }
 
 bool Fplan::stretchColumns(int twips)

@@ -74,10 +74,10 @@ QList<EntreeMenu> impressions()
 
 MenusMois::MenusMois(QWidget *parent) : QObject(parent), m_parent(parent)
 {
-    ajouteMenu(QStringLiteral("Affichage"), affichage());
-    ajouteMenu(QStringLiteral("   Lignes de planning  "), lignes());
-    ajouteMenu(QStringLiteral("   Fonctions   "), fonctions());
-    ajouteMenu(QStringLiteral("   Impressions  /  Export..."), impressions());
+    ajouteMenu("mnuaff", QStringLiteral("Affichage"), affichage());
+    ajouteMenu("mnulig", QStringLiteral("   Lignes de planning  "), lignes());
+    ajouteMenu("mnufonc", QStringLiteral("   Fonctions   "), fonctions());
+    ajouteMenu("mnuimp", QStringLiteral("   Impressions  /  Export..."), impressions());
     for (const EntreeMenu &entree :
          {EntreeMenu{"mnuaid", QStringLiteral("?")}, EntreeMenu{"mnuferm", QStringLiteral("   Fermer")}}) {
         ajouteEntree(nullptr, entree);
@@ -85,11 +85,12 @@ MenusMois::MenusMois(QWidget *parent) : QObject(parent), m_parent(parent)
     }
 }
 
-void MenusMois::ajouteMenu(const QString &titreMenu, const QList<EntreeMenu> &entrees)
+void MenusMois::ajouteMenu(const char *nom, const QString &titreMenu, const QList<EntreeMenu> &entrees)
 {
     auto *menu = new QMenu(titreMenu, m_parent);
     for (const EntreeMenu &entree : entrees)
         ajouteEntree(menu, entree);
+    menu->menuAction()->setObjectName(QLatin1String(nom));
     m_barre << menu->menuAction();
 }
 
@@ -114,6 +115,12 @@ void MenusMois::ajouteEntree(QMenu *menu, const EntreeMenu &entree)
 void MenusMois::permet(const QString &nom, bool permise)
 {
     entree(nom)->setEnabled(permise && m_liees.contains(nom));
+}
+
+void MenusMois::permetMenus(bool permis)
+{
+    for (QAction *entree : m_barre)
+        if (entree->menu()) entree->setEnabled(permis);
 }
 
 void MenusMois::montre(const EtatCommandes &etat)

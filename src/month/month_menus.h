@@ -38,11 +38,14 @@ public:
 
     [[nodiscard]] bool estLiee(const QString &nom) const { return m_liees.contains(nom); }
 
+    /// Opens or closes the menus as a whole, while a cell takes a code.
+    void permetMenus(bool permis);
+
     /// Opens and closes the entries as the commands stand.
     void montre(const EtatCommandes &etat);
 
 private:
-    void ajouteMenu(const QString &titreMenu, const QList<EntreeMenu> &entrees);
+    void ajouteMenu(const char *nom, const QString &titreMenu, const QList<EntreeMenu> &entrees);
     void ajouteEntree(QMenu *menu, const EntreeMenu &entree);
     void permet(const QString &nom, bool permise);
 

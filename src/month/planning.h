@@ -26,14 +26,21 @@ struct Surbrillance {
     QRgb encre = 0;
 };
 
+/// The colours that a cell has of its own.
+struct Couleurs {
+    QRgb fond = palette::fond;
+    QRgb encre = palette::encre;
+};
+
 /// A run of columns on one row. It only grows to the right; `selfin` below `seldeb` is the empty state of a
 /// drag that came back onto its anchor.
 struct Selection {
-    bool selact = false;    ///< a selection exists
-    bool selglisse = false; ///< the left button is dragging
-    int selligne = 0;       ///< its row
-    int seldeb = 0;         ///< anchor column
-    int selfin = 0;         ///< last selected column
+    bool selact = false;             ///< a selection exists
+    bool selglisse = false;          ///< the left button is dragging
+    int selligne = 0;                ///< its row
+    int seldeb = 0;                  ///< anchor column
+    int selfin = 0;                  ///< last selected column
+    QHash<int, Couleurs> couleurs{}; ///< own colours of the selected cells, by column
 };
 
 /// An open month: what the month form shows, without the form. The procedures of this folder work on it;

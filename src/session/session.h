@@ -63,6 +63,8 @@ struct Session {
     QString saisnom;
     float saisligne = 0;
 
+    QString abscode; ///< code typed for an absence entry
+
     // State of the journal's ring.
     int nblog = 30;
     bool peutannul = false;
