@@ -38,7 +38,6 @@ constexpr int margeLargeur = 300;
 constexpr int margeHauteur = 100;
 // The progress bar's maximum is the count of lines and this.
 constexpr int margeProgres = 5;
-constexpr int lignesEntreRepaints = 32;
 // Keys that begin the entry of a code in a cell.
 constexpr ushort premiereTouche = 47;
 constexpr ushort derniereTouche = 122;
@@ -58,11 +57,11 @@ const QHash<Bouton, QString> &commandesBoutons()
 
 Fplan::Fplan(Session &session, QWidget *parent)
     : MonthView(parent), m_session(session), m_planning(session, session.moisvue, session.anvue),
-      m_menus(this), m_label1(nomme(new QLabel(QStringLiteral("Planning"), this), "Label1")),
-      m_dossier(nomme(new QLabel(this), "dossier")), m_date(nomme(new QLabel(this), "date")),
-      m_statut(nomme(new QLabel(this), "statut")), m_pgb(nomme(new QProgressBar(this), "Pgb")),
+      m_menus(this), m_label1(etiquette(this, "Label1", QStringLiteral("Planning"))),
+      m_dossier(etiquette(this, "dossier", {})), m_date(etiquette(this, "date", {})),
+      m_statut(etiquette(this, "statut", {})), m_pgb(nomme(new QProgressBar(this), "Pgb")),
       m_mg(new VueGrille(m_planning, this)), m_code(new SaisieCode(m_mg->viewport(), this)),
-      m_maca(nomme(new QMenu(this), "maca"))
+      m_maca(m_menus.maca())
 {
     setObjectName(QStringLiteral("Fplan"));
     setWindowTitle(QStringLiteral("Planning mois"));
@@ -111,6 +110,9 @@ void Fplan::construitEntete()
     if (!m_session.dossiervue.isEmpty())
         m_dossier->setText(QStringLiteral("Dossier : ") + m_session.dossiervue);
     m_statut->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    // A long text must not widen the window.
+    m_statut->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_statut->setMinimumHeight(m_statut->fontMetrics().height());
     m_pgb->setTextVisible(false);
     m_pgb->setMaximumWidth(pixels(4000, *this));
     m_mg->setVisible(compteLignes(m_session, periode) > 0);
@@ -121,14 +123,16 @@ void Fplan::mesure()
     const QFontMetricsF metrique(m_mg->font(), m_mg);
     m_planning.mesures.largcol =
         twips(metrique.horizontalAdvance(QLatin1String(texteLargeur)), *this) + margeLargeur;
+    m_planning.mesures.hautentete = twips(metrique.height(), *this) + margeHauteur;
     m_planning.mesures.hautligne =
         2 * twips(metrique.boundingRect(QLatin1String(texteHauteur)).height(), *this) + margeHauteur;
 }
 
 void Fplan::relie()
 {
-    for (QTimer *timer : {&m_timer1, &m_timer2, &m_timer3})
-        timer->setSingleShot(true);
+    nomme(&m_timer1, "Timer1")->setSingleShot(true);
+    nomme(&m_timer2, "Timer2")->setSingleShot(true);
+    nomme(&m_timer3, "Timer3")->setSingleShot(true);
     connect(&m_timer1, &QTimer::timeout, this, &Fplan::charge);
     connect(&m_timer2, &QTimer::timeout, this, &Fplan::rafraichit);
     connect(&m_timer3, &QTimer::timeout, this, &Fplan::execute);
@@ -187,6 +191,7 @@ void Fplan::relieMenus()
     m_menus.lie(QStringLiteral("mnusais"), this, &Fplan::saisitHeures);
     m_menus.lie(QStringLiteral("mnuaid"), this,
                 [this] { ouvreaide(m_session, QStringLiteral("sommaire.htm")); });
+    m_menus.entree(QStringLiteral("mnuaid"))->setShortcut(QKeySequence::HelpContents);
     m_menus.lie(QStringLiteral("mnuferm"), this, [this] { close(); });
 }
 
@@ -199,10 +204,7 @@ void Fplan::charge()
 {
     m_pgb->setRange(0, compteLignes(m_session, m_planning.periode) + margeProgres);
     m_pgb->setValue(1);
-    const Chargement chargement{.progres = [this](int valeur) {
-        m_pgb->setValue(valeur);
-        if (valeur % lignesEntreRepaints == 0) m_pgb->repaint();
-    }};
+    const Chargement chargement{.progres = [this](int valeur) { m_pgb->setValue(valeur); }};
     m_mg->hide();
     if (!chargi(m_planning, chargement)) {
         close();
@@ -224,6 +226,7 @@ void Fplan::rafraichit()
     cycle(m_planning);
     m_date->setText(QStringLiteral("le : ") + Foncgen::dtoc(m_planning.dateStatut));
     m_statut->setText(m_planning.texteStatut);
+    m_statut->setToolTip(m_planning.texteStatut.toHtmlEscaped());
     montreCommandes();
     if (m_mg->isVisible() && m_mg->isEnabled()) m_mg->setFocus();
 }
@@ -268,6 +271,7 @@ void Fplan::saisitHeures()
             [this](const JourneeSaisie &journee, const JourSit &jour) { ecrihor(m_session, journee, jour); },
             this);
         dialogue.exec();
+        if (m_ferme) return;
         refaitLigne(place.ligne);
     }
     lanceCycle();

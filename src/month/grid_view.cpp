@@ -10,6 +10,8 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
+#include <algorithm>
+
 namespace velmora
 {
 
@@ -46,6 +48,8 @@ VueGrille::VueGrille(Planning &planning, QWidget *parent)
     setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     connect(&m_modele, &ModeleGrille::taillesChangees, this, &VueGrille::appliqueTailles);
+    connect(&m_modele, &ModeleGrille::modelReset, this, &VueGrille::suitCurseur);
+    connect(m_lignes, &EnteteLignes::nomClique, this, &VueGrille::montreRapport);
 }
 
 void VueGrille::appliqueTailles()
@@ -54,8 +58,10 @@ void VueGrille::appliqueTailles()
     for (int colonne = Grille::colonnesFixes; colonne < grille.colonnes(); ++colonne)
         m_jours->resizeSection(ModeleGrille::colonneVue(colonne), pixels(grille.largeur(colonne), *this));
     // Only the rows that differ from the usual height are set one by one.
-    if (grille.derniereLigne() > Grille::lignesFixes)
-        m_lignes->setDefaultSectionSize(pixels(grille.hauteur(Grille::lignesFixes), *this));
+    int usuelle = grille.hauteur(Grille::lignesFixes);
+    for (int ligne = Grille::lignesFixes; ligne < grille.derniereLigne(); ++ligne)
+        usuelle = std::min(usuelle, grille.hauteur(ligne));
+    m_lignes->setDefaultSectionSize(pixels(usuelle, *this));
     for (int ligne = Grille::lignesFixes; ligne < grille.lignes(); ++ligne) {
         const int section = ModeleGrille::ligneVue(ligne);
         const int hauteur = pixels(grille.hauteur(ligne), *this);
@@ -71,6 +77,19 @@ void VueGrille::montreGrille()
     appliqueTailles();
     suitCurseur();
     montreGauche();
+}
+
+/// A click on a line's fixed columns asks for its report; the cursor keeps its column.
+void VueGrille::montreRapport(int section)
+{
+    emit gesteCommence();
+    if (!m_planning.grille.estLigne(ModeleGrille::ligneGrille(section))) return;
+    m_planning.rapportdemande = true;
+    const QModelIndex but = m_modele.index(section, ModeleGrille::colonneVue(m_planning.curseur.colonne));
+    if (but != currentIndex())
+        setCurrentIndex(but);
+    else
+        emit caseAtteinte();
 }
 
 void VueGrille::montreGauche()

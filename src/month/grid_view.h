@@ -76,6 +76,7 @@ protected:
 private:
     void appliqueTailles();
     void glisse(int x);
+    void montreRapport(int section);
     [[nodiscard]] QModelIndex indexCurseur() const;
     [[nodiscard]] QPoint pointMenu() const;
 

@@ -55,6 +55,16 @@ QList<EntreeMenu> fonctions()
             {"mnusup", QStringLiteral("Supprimer (abs. /  heures saisies)   Suppr./")}};
 }
 
+/// The small letters of its last two captions are wanted.
+QList<EntreeMenu> popup()
+{
+    return {{"maccoupe", QStringLiteral("Couper")},
+            {"macab2", {}},
+            {"maccopier", QStringLiteral("copier")},
+            {"macb1", {}},
+            {"maccolle", QStringLiteral("coller")}};
+}
+
 QList<EntreeMenu> impressions()
 {
     return {{"mnuhor", QStringLiteral("Horaires Pratiqués")},
@@ -72,8 +82,11 @@ QList<EntreeMenu> impressions()
 
 } // namespace
 
-MenusMois::MenusMois(QWidget *parent) : QObject(parent), m_parent(parent)
+MenusMois::MenusMois(QWidget *parent) : QObject(parent), m_parent(parent), m_maca(new QMenu(parent))
 {
+    m_maca->setObjectName(QStringLiteral("maca"));
+    for (const EntreeMenu &entree : popup())
+        ajouteEntree(m_maca, entree);
     ajouteMenu("mnuaff", QStringLiteral("Affichage"), affichage());
     ajouteMenu("mnulig", QStringLiteral("   Lignes de planning  "), lignes());
     ajouteMenu("mnufonc", QStringLiteral("   Fonctions   "), fonctions());
@@ -126,15 +139,20 @@ void MenusMois::permetMenus(bool permis)
 void MenusMois::montre(const EtatCommandes &etat)
 {
     permet(QStringLiteral("mnucoupe"), etat.couper);
+    permet(QStringLiteral("maccoupe"), etat.couper);
     permet(QStringLiteral("mnucopier"), etat.copier);
+    permet(QStringLiteral("maccopier"), etat.copier);
     permet(QStringLiteral("mnucoller"), etat.coller);
+    permet(QStringLiteral("maccolle"), etat.coller);
     permet(QStringLiteral("mnuundo"), etat.annuler);
     permet(QStringLiteral("mnudo"), etat.refaire);
     permet(QStringLiteral("mnuabs"), etat.absence);
     permet(QStringLiteral("mnufermlig"), etat.fermerLigne);
     permet(QStringLiteral("mnureouv"), etat.reouvrirLigne);
     permet(QStringLiteral("mnurenlig"), etat.renommerLigne);
-    entree(QStringLiteral("mnuimpi"))->setText(QStringLiteral("Planning de ") + etat.ligneCourante);
+    entree(QStringLiteral("mnuimpi"))
+        ->setText(QStringLiteral("Planning de ") +
+                  QString(etat.ligneCourante).replace(QLatin1Char('&'), QStringLiteral("&&")));
 }
 
 } // namespace velmora

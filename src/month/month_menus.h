@@ -25,6 +25,8 @@ public:
     explicit MenusMois(QWidget *parent);
 
     [[nodiscard]] QList<QAction *> barre() const { return m_barre; }
+    /// The grid's popup menu.
+    [[nodiscard]] QMenu *maca() const { return m_maca; }
     /// The entry of a name, for example "mnusais".
     [[nodiscard]] QAction *entree(const QString &nom) const { return m_entrees.value(nom); }
 
@@ -50,6 +52,7 @@ private:
     void permet(const QString &nom, bool permise);
 
     QWidget *m_parent;
+    QMenu *m_maca;
     QList<QAction *> m_barre;
     QHash<QString, QAction *> m_entrees;
     QStringList m_liees;

@@ -66,7 +66,7 @@ struct Planning {
     int rowprec = Grille::lignesFixes;
     int colonneGauche = Grille::colonnesFixes; ///< first day column in view
     Surbrillance surbrillance;
-    bool rapportdemande = false; ///< the next refresh shows the labour report of the current line
+    bool rapportdemande = false; ///< the current line's labour report was asked for; the next refresh answers
     QString texteStatut;         ///< status text of the current cell
     QDate dateStatut;
     EtatCommandes commandes;

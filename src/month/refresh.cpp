@@ -75,6 +75,7 @@ void cycle(Planning &planning)
     majcommandes(planning);
     planning.commandes.ligneCourante = planning.grille.lit(place.ligne, Grille::colonneNom).texte;
     planning.commandes.renommerLigne = true;
+    planning.rapportdemande = false;
 }
 
 } // namespace velmora

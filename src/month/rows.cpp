@@ -7,6 +7,8 @@
 #include "session/batch.h"
 #include "session/values.h"
 
+#include <utility>
+
 namespace velmora
 {
 
