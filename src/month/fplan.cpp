@@ -91,11 +91,11 @@ void Fplan::construit()
     auto *etat = new QHBoxLayout;
     etat->addWidget(m_date);
     etat->addWidget(m_statut, 1);
+    etat->addWidget(m_code->frame2(), 1);
     auto *colonne = new QVBoxLayout(this);
     colonne->setContentsMargins(6, 4, 6, 4);
     colonne->addLayout(titres);
     colonne->addWidget(m_mg, 1);
-    colonne->addWidget(m_code->frame2());
     colonne->addLayout(etat);
 }
 
@@ -297,6 +297,8 @@ void Fplan::commenceCode(const QString &touche)
     m_mg->setEnabled(false);
     m_menus.permetMenus(false);
     m_maca->setEnabled(false);
+    m_date->hide();
+    m_statut->hide();
     emit commandsChanged(ToolbarState::onRefresh(m_planning.commandes).allOff());
     m_code->commence(m_mg->rectCurseur(), touche,
                      m_planning.grille.lit(place.ligne, Grille::colonneNom).texte +
@@ -319,6 +321,8 @@ void Fplan::finitCode()
     m_mg->setEnabled(true);
     m_menus.permetMenus(true);
     m_maca->setEnabled(true);
+    m_date->show();
+    m_statut->show();
     m_planning.suivi = true;
     lanceCycle();
 }

@@ -170,6 +170,8 @@ TEST_F(FplanTest, ACodeTypedInACellIsCheckedAndEscapeWritesNothing)
     QTest::keyClicks(grid(), QStringLiteral("z"));
     ASSERT_TRUE(text->isVisible());
     EXPECT_EQ(text->text(), QStringLiteral("Z"));
+    EXPECT_TRUE(text->isEnabled());
+    EXPECT_TRUE(text->hasFocus());
     EXPECT_FALSE(grid()->isEnabled());
     EXPECT_EQ(form->findChild<QLabel *>(QStringLiteral("Labeli1"))->text(),
               QStringLiteral("ANNE  à dater 04/06/2026"));
