@@ -1,6 +1,7 @@
 #pragma once
 
 #include "month/cells.h"
+#include "month/clipboard.h"
 #include "month/columns.h"
 #include "month/commands.h"
 #include "month/grid.h"
@@ -71,7 +72,7 @@ struct Planning {
     QDate dateStatut;
     EtatCommandes commandes;
     Selection selection;
-    int cliplong = 0; ///< days held by cut and copy
+    Pressepapiers pressepapiers;
 
     [[nodiscard]] int premiereColonne() const { return Grille::colonnesFixes; }
     [[nodiscard]] QDate date(int colonne) const
