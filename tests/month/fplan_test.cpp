@@ -213,6 +213,26 @@ TEST_F(FplanTest, OneEntryChangesCellWeekMonthColumnTotalsAndJournal)
     EXPECT_EQ(session.journal.logop.row().libop, QStringLiteral("nouvel horaire: ANNE le 03/06/2026"));
 }
 
+TEST_F(FplanTest, CopyPasteAndDeleteByKeysChangeTheGridAndTheFiles)
+{
+    openMonth();
+    click(1, june3);
+    QTest::keyClick(grid(), Qt::Key_C, Qt::ControlModifier);
+    settle();
+    click(1, QDate(2026, 6, 4));
+    EXPECT_TRUE(planning().commandes.coller);
+    QTest::keyClick(grid(), Qt::Key_V, Qt::ControlModifier);
+    settle();
+    EXPECT_EQ(cell(1, QDate(2026, 6, 4)), cell(1, june3));
+    station.host.expectQuestion(QStringLiteral("Suppression horaire(s) ?"), true);
+    QTest::keyClick(grid(), Qt::Key_Delete);
+    settle();
+    EXPECT_EQ(cell(1, QDate(2026, 6, 4)), QString());
+    EXPECT_EQ(planning().pressepapiers.cliplong(), 0);
+    QTest::keyClick(grid(), Qt::Key_Delete, Qt::ShiftModifier); // asks nothing
+    EXPECT_EQ(session.base.sitper.recordCount(), 2);
+}
+
 TEST_F(FplanTest, TheStarOpensTheEntryAndEscapeWritesNothing)
 {
     openMonth();
