@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foncgen/foncgen.h"
+#include "journal/touched_lines.h"
 #include "session/host.h"
 #include "store/databases.h"
 
@@ -79,6 +80,7 @@ struct Session {
     QString foncsit;      ///< row operation under way on `sitper`
     QString foncabs;      ///< row operation under way on `absences`
     bool collage = false; ///< a paste is running
+    LignesRejouees rejeu; ///< what the last undo or redo touched
 
     std::unique_ptr<Foncgen> foncgen;
     store::MainDatabase base;
