@@ -13,7 +13,6 @@ class AbsencesLigne
 public:
     AbsencesLigne(Session &session, int nump);
 
-    [[nodiscard]] bool vide() const { return m_absences.empty(); }
     /// The span that covers a date, by the same search as in the table; null for none.
     [[nodiscard]] const AbsenceSaisie *du(const QDate &date) const;
 

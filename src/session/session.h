@@ -64,6 +64,13 @@ struct Session {
     QString saisnom;
     float saisligne = 0;
 
+    QString abscode; ///< code typed for an absence entry
+
+    // What the print and export dialogs are given; each command has its own roles for them.
+    QDate impdate;
+    QDate impdeb;
+    QDate impfin;
+
     // State of the journal's ring.
     int nblog = 30;
     bool peutannul = false;
