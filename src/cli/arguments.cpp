@@ -51,12 +51,15 @@ void Arguments::litOption(const QString &texte, const QStringList &ligne, qsizet
         return refuse(QStringLiteral("l'option --%1 ne prend pas de valeur").arg(nom));
     if (m_valeurs.contains(nom) && !option->repetee)
         return refuse(QStringLiteral("l'option --%1 est donnée deux fois").arg(nom));
-    if (option->valeur && !colle && i + 1 == ligne.size())
+    QStringList valeurs;
+    if (colle) valeurs << texte.mid(nom.size() + 1);
+    const qsizetype attendues = option->valeur ? option->nombre : 0;
+    while (valeurs.size() < attendues && i + 1 < ligne.size())
+        valeurs << ligne[++i];
+    if (valeurs.size() < attendues)
         return refuse(
             QStringLiteral("l'option --%1 attend une valeur : %2").arg(nom, QLatin1String(option->valeur)));
-    QString valeur;
-    if (option->valeur) valeur = colle ? texte.mid(nom.size() + 1) : ligne[++i];
-    m_valeurs[nom] << valeur;
+    m_valeurs[nom] << valeurs;
 }
 
 std::optional<int> entier(const QString &texte, int mini, int maxi)

@@ -10,19 +10,22 @@
 namespace velmora::cli
 {
 
-/// An option of the command line and the word for its value in the help; without a word it takes none.
+/// An option of the command line and the words for its values in the help; without a word it takes none.
 struct Option {
     const char *nom;
     const char *valeur = nullptr;
     bool repetee = false; ///< may be given more than once
+    bool requise = false; ///< the command can't do without
+    int nombre = 1;       ///< values that it takes, one after the other
 };
 
 /// The command line taken apart: the words that are no options, in order, and the options with their values.
 class Arguments
 {
 public:
-    /// Takes options before, between and after the words, as "--nom valeur" or "--nom=valeur"; what follows
-    /// "--" is words. `erreur` then tells an unknown option, a missing or unwanted value or a repetition.
+    /// Takes options before, between and after the words, as "--nom valeur" or "--nom=valeur", with further
+    /// values behind; what follows "--" is words. `erreur` then tells an unknown option, a missing or
+    /// unwanted value or a repetition.
     Arguments(const QStringList &ligne, const std::vector<Option> &connues);
 
     /// A sentence about the first fault; empty when there is none.

@@ -1,10 +1,12 @@
 #include "cli/commands.h"
 
 #include "cli/base_commands.h"
+#include "cli/days_commands.h"
 #include "cli/entry_command.h"
 #include "cli/installation.h"
 #include "cli/journal_command.h"
 #include "cli/month_commands.h"
+#include "cli/undo_commands.h"
 #include "foncgen/foncgen.h"
 #include "session/velmoral.h"
 
@@ -65,9 +67,10 @@ QString usage(const Commande &commande)
     QString texte = QStringLiteral("velmora ") + QString::fromUtf8(commande.nom);
     if (*commande.mots) texte += QLatin1Char(' ') + QString::fromUtf8(commande.mots);
     for (const Option &option : commande.options) {
-        texte += QStringLiteral(" [--") + QString::fromUtf8(option.nom);
-        if (option.valeur) texte += QLatin1Char(' ') + QString::fromUtf8(option.valeur);
-        texte += option.repetee ? QStringLiteral("]...") : QStringLiteral("]");
+        QString une = QStringLiteral("--") + QString::fromUtf8(option.nom);
+        if (option.valeur) une += QLatin1Char(' ') + QString::fromUtf8(option.valeur);
+        if (!option.requise) une = QLatin1Char('[') + une + QLatin1Char(']');
+        texte += QLatin1Char(' ') + une + (option.repetee ? QStringLiteral("...") : QString());
     }
     return texte;
 }
@@ -90,7 +93,11 @@ QString fauteCommande(const LigneCommande &ligne)
     if (mots.isEmpty()) return {};
     if (!ligne.commande) return QStringLiteral("commande inconnue : ") + mots.first();
     const auto nombre = mots.size() - 1;
-    if (nombre >= ligne.commande->motsMini && nombre <= ligne.commande->motsMaxi) return {};
+    const auto &options = ligne.commande->options;
+    const bool completes = std::all_of(options.begin(), options.end(), [&](const Option &option) {
+        return !option.requise || ligne.arguments.a(option.nom);
+    });
+    if (completes && nombre >= ligne.commande->motsMini && nombre <= ligne.commande->motsMaxi) return {};
     return QStringLiteral("usage : ") + usage(*ligne.commande);
 }
 
@@ -165,6 +172,35 @@ const std::vector<Commande> &commandes()
          6,
          {},
          commandeSaisie},
+        {"copier",
+         "NUMP DEBUT FIN",
+         "copie les horaires d'une ligne à partir d'un autre jour",
+         3,
+         3,
+         {{"vers", "NUMP DATE", false, true, 2}},
+         commandeCopier},
+        {"couper",
+         "NUMP DEBUT FIN",
+         "déplace les horaires d'une ligne à partir d'un autre jour",
+         3,
+         3,
+         {{"vers", "NUMP DATE", false, true, 2}},
+         commandeCouper},
+        {"supprimer",
+         "NUMP DEBUT [FIN]",
+         "supprime l'absence du premier jour ou, sans absence, les horaires",
+         2,
+         3,
+         {},
+         commandeSupprimer},
+        {"annuler", "", "annule la dernière opération, après une question", 0, 0, {}, commandeAnnuler},
+        {"refaire",
+         "",
+         "refait l'opération annulée en dernier, après une question",
+         0,
+         0,
+         {},
+         commandeRefaire},
         {"journal", "", "affiche les opérations enregistrées", 0, 0, {}, commandeJournal},
     };
     return toutes;

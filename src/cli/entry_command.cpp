@@ -1,12 +1,12 @@
 #include "cli/entry_command.h"
 
+#include "cli/line_days.h"
 #include "cli/start.h"
 #include "entry/derivation.h"
 #include "entry/request.h"
 #include "entry/storing.h"
 #include "entry/typed_entry.h"
 #include "foncgen/foncgen.h"
-#include "month/period.h"
 
 namespace velmora::cli
 {
@@ -43,23 +43,6 @@ std::optional<QStringList> litHeures(const QStringList &tranches)
     return heures;
 }
 
-/// Why a run of dates can't be entered on the line that `ligmois` is on; empty when it can. The dates that a
-/// month shows are the ones that can be entered.
-QString refusDates(Session &session, const QDate &debut, const QDate &fin)
-{
-    if (fin < debut) return QStringLiteral("La date de fin est avant la date de début.");
-    const QDate premiere = periodeDuMois(session.datemin.month(), session.datemin.year()).debgrille;
-    const QDate derniere = periodeDuMois(session.datemax.month(), session.datemax.year()).fingrille;
-    if (debut < premiere || fin > derniere) {
-        return QStringLiteral("Les dates vont du %1 au %2.")
-            .arg(Foncgen::dtoc(premiere), Foncgen::dtoc(derniere));
-    }
-    const Ligne &ligne = session.base.ligmois.row();
-    if (fin <= ligne.datefin && prepareSaisie(session, ligne.nom, ligne.nump, debut, fin)) return {};
-    return QStringLiteral("La ligne n'est ouverte que du %1 au %2.")
-        .arg(Foncgen::dtoc(ligne.datedeb), Foncgen::dtoc(ligne.datefin));
-}
-
 int enregistre(Session &session, const QStringList &heures)
 {
     const auto saisie = normaliseTranches(heures);
@@ -74,16 +57,13 @@ int enregistre(Session &session, const QStringList &heures)
 
 int saisit(Session &session, const Demande &demande)
 {
-    if (!placeLigne(session, demande.nump)) return refus(ligneInconnue(demande.nump));
-    const QDate debut = Foncgen::ctod(demande.debut);
-    const QDate fin = Foncgen::ctod(demande.fin);
-    if (!debut.isValid()) return refus(dateIllisible(demande.debut));
-    if (!fin.isValid()) return refus(dateIllisible(demande.fin));
+    const JoursLigne jours = litJours(session, demande.nump, demande.debut, demande.fin);
+    if (!jours.refus.isEmpty()) return refus(jours.refus);
     const auto heures = litHeures(demande.tranches);
     if (!heures)
         return refus(QStringLiteral("Horaire illisible : ") + demande.tranches.join(QLatin1Char(' ')));
-    const QString impossible = refusDates(session, debut, fin);
-    return impossible.isEmpty() ? enregistre(session, *heures) : refus(impossible);
+    if (!prepareSaisie(session, jours.ligne.nom, jours.ligne.nump, jours.debut, jours.fin)) return refuse;
+    return enregistre(session, *heures);
 }
 
 } // namespace

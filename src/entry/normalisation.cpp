@@ -67,7 +67,6 @@ bool SaisieHoraire::normhor()
     Tranches tranches = lit();
     cascade(tranches);
     if (remetHorsPlage(tranches)) {
-        m_remise = true;
         ecrit(tranches);
         rendfocus();
         m_actif = true;
@@ -88,12 +87,6 @@ bool SaisieHoraire::normhor()
     m_precedentes = tranches;
     m_actif = true;
     return total != 0;
-}
-
-bool SaisieHoraire::valide()
-{
-    const bool remise = std::exchange(m_remise, false);
-    return normhor() && !remise;
 }
 
 void SaisieHoraire::etatchamps()
@@ -170,7 +163,6 @@ void SaisieHoraire::change(int champ, const QString &texte)
 {
     if (m_textes[indice(champ)] == texte) return;
     m_textes[indice(champ)] = texte;
-    m_remise = false;
     if (!m_actif) return;
     if (estDebut(champ)) {
         changeDebut(champ);
@@ -220,7 +212,6 @@ void SaisieHoraire::focusPerdu(int champ)
 void SaisieHoraire::supprimeDepuis(int champ)
 {
     m_actif = false;
-    m_remise = false;
     // Each text is taken from the field before it after that one changed, so one text runs to the end.
     const QString texte = champ == 1 ? heure(0) : m_textes[indice(champ - 1)];
     std::fill(m_textes.begin() + static_cast<std::ptrdiff_t>(indice(champ)), m_textes.end(), texte);

@@ -41,9 +41,6 @@ public:
     /// be stored; false if its total is 0 or a value out of range was put back. True and no effect while the
     /// fields are not live.
     bool normhor();
-    /// The answer to OK: `normhor`, and false as well when a value out of range was put back since the last
-    /// change, so that a value which the user hasn't seen come back isn't stored unsaid.
-    bool valide();
     /// Enables the fields of slices 2 and 3: each while the texts of the slice before it differ.
     void etatchamps();
 
@@ -98,7 +95,6 @@ private:
     bool m_modifie = false;
     bool m_actif = false;
     bool m_okPermis = false;
-    bool m_remise = false; // a value was put back since the last change
     bool m_nuit = false;
 };
 

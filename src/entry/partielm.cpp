@@ -6,6 +6,7 @@
 #include "entry/hour_bar_view.h"
 #include "foncgen/field_wiring.h"
 #include "session/help.h"
+#include "workstation/controls.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -41,22 +42,6 @@ constexpr int longueurHeure = 5;
 constexpr int formatHeure = 3; // the place of the "h"
 constexpr int longueurTexte = 50;
 
-template <class Widget> Widget *nomme(Widget *widget, const char *nom)
-{
-    widget->setObjectName(QLatin1String(nom));
-    return widget;
-}
-
-QLabel *etiquette(QWidget *parent, const char *nom, const QString &texte)
-{
-    return nomme(new QLabel(texte, parent), nom);
-}
-
-QPushButton *bouton(QWidget *parent, const char *nom, const QString &texte)
-{
-    return nomme(new QPushButton(texte, parent), nom);
-}
-
 void colore(QWidget *widget, const QColor &fond)
 {
     QPalette palette = widget->palette();
@@ -77,6 +62,7 @@ QColor fondDe(const QWidget *widget)
 Partielm::Partielm(Session &session, Ecrihor ecrihor, QWidget *parent)
     : QDialog(parent), m_session(session), m_ecrihor(std::move(ecrihor)), m_journee(journeeSaisie(session))
 {
+    setObjectName(QStringLiteral("Partielm"));
     construit();
     dispose();
     relie();
@@ -107,6 +93,9 @@ void Partielm::construit()
     m_command1 = bouton(this, "Command1", QStringLiteral("OK"));
     m_command2 = bouton(this, "Command2", QStringLiteral("Annuler"));
     m_command3 = bouton(this, "Command3", QStringLiteral("?"));
+    // A click leaves the focus in its field: an hour that OK refuses is said, and put back where it stands.
+    for (QPushButton *commande : {m_command1, m_command2, m_command3})
+        commande->setFocusPolicy(Qt::TabFocus);
     nomme(&m_timer1, "Timer1")->setSingleShot(true);
     nomme(&m_timer2, "Timer2")->setSingleShot(true);
 }
@@ -341,12 +330,16 @@ void Partielm::delai()
 
 void Partielm::ok()
 {
-    const bool bon = m_saisie.valide();
+    const bool bon = m_saisie.normhor();
     montre();
     if (!bon) {
         m_session.host.message(horaireEnAnomalie(), titre);
         return;
     }
+    m_timer1.stop();
+    m_timer2.stop();
+    // Storing may let events run; nothing else is to be decided meanwhile.
+    setEnabled(false);
     m_ecrihor(m_journee, jourDeSaisie(m_saisie.textes(), m_saisie.total()));
     m_session.dlgvalide = true;
     accept();

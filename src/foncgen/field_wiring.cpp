@@ -233,7 +233,8 @@ bool FieldWiring::key(QKeyEvent *event)
         insertFromClipboard();
     else
         keyPress(event);
-    if (alive && !event->text().isEmpty() && m_hooks.afterKeyPress) m_hooks.afterKeyPress();
+    if (alive && !event->text().isEmpty() && m_field->hasFocus() && m_hooks.afterKeyPress)
+        m_hooks.afterKeyPress();
     return true;
 }
 

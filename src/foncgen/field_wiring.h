@@ -26,7 +26,7 @@ struct FieldHooks {
     std::function<void()> focusLost{};
     /// A key of `fieldkey` goes down without Shift, Ctrl, Alt or Meta. True swallows it before "KD".
     std::function<bool(quint16 key)> beforeKeyDown{};
-    /// The field has handled a key press, text and all.
+    /// The field has handled a key that stands for a text and still has the focus.
     std::function<void()> afterKeyPress{};
 };
 

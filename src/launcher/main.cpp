@@ -1,6 +1,7 @@
 #include "cli/commands.h"
 #include "launcher/picture.h"
 #include "launcher/window.h"
+#include "workstation/look.h"
 
 #include <QApplication>
 #include <QLoggingCategory>
@@ -46,7 +47,8 @@ int fenetre(const cli::LigneCommande &ligne, int argc, char **argv)
         return cli::refus(QStringLiteral("Pas d'écran : la fenêtre ne peut pas s'ouvrir. « velmora --aide » "
                                          "montre les commandes qui s'en passent."));
     }
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
+    appliqueApparence(application);
     return ouvreFenetre(ligne.poste);
 }
 
@@ -57,7 +59,8 @@ int dessin(const cli::LigneCommande &ligne, int argc, char **argv)
     // The off-screen platform says what it lacks; nobody here misses it.
     QLoggingCategory::setFilterRules(QLatin1String(reglesJournal) +
                                      QStringLiteral("\ndefault.warning=false"));
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
+    appliqueApparence(application);
     return cli::execute(ligne, peintMois);
 }
 

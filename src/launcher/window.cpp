@@ -67,7 +67,10 @@ int ouvreFenetre(const cli::Poste &poste)
     host.siMuette = [&velmoral] { return cli::causeArret(velmoral.session()); };
     velmoral.ini(poste.pseudo, poste.journal, poste.base);
     host.siMuette = {};
-    return velmoral.demarree() ? QApplication::exec() : cli::refuse;
+    const int statut = velmoral.demarree() ? QApplication::exec() : cli::refuse;
+    // The window reads the session to its last event.
+    fenetre.reset();
+    return statut;
 }
 
 } // namespace velmora

@@ -15,7 +15,6 @@ public:
 
     /// Whether the spans could be read to their end.
     [[nodiscard]] const store::Status &status() const { return m_status; }
-    [[nodiscard]] bool vide() const { return m_absences.empty(); }
     /// The span that covers a date, by the same search as in the table; null for none.
     [[nodiscard]] const AbsenceSaisie *du(const QDate &date) const;
 

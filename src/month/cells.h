@@ -35,7 +35,7 @@ private:
     QHash<Cle, QString> m_textes;
 };
 
-/// Lines that the text takes in the mode: only a day with a second cut has three.
+/// Whether the text takes three lines in the mode: only with a second cut.
 [[nodiscard]] bool troisLignes(const Horaire &horaire, int modecellule);
 
 /// The value in minutes of a day under an absence: a fixed value, none, or the hours that the day held.

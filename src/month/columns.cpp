@@ -130,6 +130,7 @@ Colonnes colonnesDe(const Periode &periode)
     for (int fixe = 0; fixe < Grille::colonnesFixes; ++fixe)
         ajoute(colonnes, {}, Sorte::Jour, periode);
     colonnes.coljour.push_back(0);
+    if (!periode.debgrille.isValid()) return colonnes;
     for (QDate date = periode.debgrille; date <= periode.fingrille; date = date.addDays(1)) {
         colonnes.coljour.push_back(colonnes.nombre());
         ajoute(colonnes, date, Sorte::Jour, periode);
@@ -145,6 +146,8 @@ void ecritEntete(Grille &grille, Colonnes &colonnes, const Periode &periode, con
     grille.dimensionne(colonnes.nombre());
     grille.fixeLargeur(Grille::colonneEtat, largeurEtat);
     grille.fixeLargeur(Grille::colonneNom, largeurNomEtEtat - largeurEtat);
+    for (int ligne = 0; ligne < Grille::lignesFixes; ++ligne)
+        grille.fixeHauteur(ligne, contexte.mesures.hautentete);
     grille.ecrit(1, Grille::colonneEtat, QStringLiteral("N° semaine"));
     grille.ecrit(Grille::ligneJour, Grille::colonneEtat, QStringLiteral("Jour"));
     Entete entete(grille, colonnes, contexte, periode);

@@ -19,7 +19,6 @@ bool colonneSautee(const Planning &planning, int colonne)
 int colonneApresSaut(const Planning &planning, int colonne)
 {
     const int premiere = planning.premiereColonne();
-    if (colonne < premiere) return premiere;
     const int sens = colonne < planning.colprec ? -1 : 1;
     int arrivee = colonne + sens;
     if (arrivee >= premiere && arrivee < planning.grille.colonnes() && !planning.colonnes.estJour(arrivee))
@@ -39,7 +38,7 @@ int ligneApresSaut(const Planning &planning, int ligne)
 
 void entreCellule(Planning &planning)
 {
-    if (!planning.suivi) return;
+    if (!planning.suivi || planning.grille.derniereLigne() == Grille::lignesFixes) return;
     Place &curseur = planning.curseur;
     curseur.ligne = std::clamp(curseur.ligne, Grille::lignesFixes, planning.grille.derniereLigne() - 1);
     if (curseur.colonne < planning.premiereColonne())
@@ -50,6 +49,13 @@ void entreCellule(Planning &planning)
         curseur.ligne = ligneApresSaut(planning, curseur.ligne);
     planning.colprec = curseur.colonne;
     planning.rowprec = curseur.ligne;
+}
+
+bool jourDeLigne(const Planning &planning)
+{
+    const Ligne &ligne = planning.session.base.ligmois.row();
+    const QDate date = planning.date(planning.curseur.colonne);
+    return planning.grille.estLigne(planning.curseur.ligne) && date >= ligne.datedeb && date <= ligne.datefin;
 }
 
 int premierJourVisible(const Planning &planning)
@@ -80,7 +86,7 @@ void etireLignes(Grille &grille, int twips)
 {
     const DessinSuspendu dessin(grille);
     for (int ligne = Grille::ligneJour; ligne < grille.derniereLigne(); ++ligne)
-        grille.fixeHauteur(ligne, std::max(grille.hauteur(ligne) + twips, 0));
+        grille.fixeHauteur(ligne, grille.hauteur(ligne) + twips);
 }
 
 } // namespace velmora

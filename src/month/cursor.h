@@ -13,6 +13,9 @@ inline constexpr int tailleVisible = 150;
 /// nothing while the grid doesn't react.
 void entreCellule(Planning &planning);
 
+/// Whether the cursor's date lies within the dates of the current row of `ligmois`.
+[[nodiscard]] bool jourDeLigne(const Planning &planning);
+
 /// First and last day column that isn't hidden.
 [[nodiscard]] int premierJourVisible(const Planning &planning);
 [[nodiscard]] int dernierJourVisible(const Planning &planning);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "month/code_entry.h"
 #include "month/grid_view.h"
 #include "month/month_menus.h"
 #include "month/month_view.h"
@@ -7,6 +8,7 @@
 #include <QTimer>
 
 class QLabel;
+class QMenu;
 class QProgressBar;
 
 namespace velmora
@@ -47,7 +49,21 @@ private:
     void montreCommandes();
     void execute();
 
+    void relieGrille();
+    void lanceCycle();
+    void celluleAtteinte();
+    void positionneLigne();
+    void refaitLigne(int ligne);
+
     void saisitHeures();
+    void copie(bool coupe);
+    void colle();
+    void supprime();
+    void rejoue(void (*replay)(Session &));
+    void commenceCode(const QString &touche);
+    void verifieCode(const QString &code);
+    void finitCode();
+    void montreMenuGrille(const QPoint &point);
     void choisitTotaux(bool centiemes);
     void touchePressee(const QString &texte);
 
@@ -60,6 +76,8 @@ private:
     QLabel *m_statut;    // what the current cell holds
     QProgressBar *m_pgb; // the load
     VueGrille *m_mg;
+    SaisieCode *m_code;    // the entry of an absence code in a cell
+    QMenu *m_maca;         // the grid's popup menu
     QTimer m_timer1{this}; // the load that follows the display
     QTimer m_timer2{this}; // the refresh cycle
     QTimer m_timer3{this}; // a command of the toolbar

@@ -122,7 +122,9 @@ void Grille::changeTaille()
 
 void Grille::changeLignes()
 {
+    // A view that hears of the rows forgets its sizes.
     m_lignesSales = true;
+    m_tailleSale = true;
     if (m_suspendu == 0) reprend();
 }
 

@@ -21,8 +21,9 @@ struct Case {
 
 /// Sizes of the grid in twips, 1440 to the inch.
 struct Mesures {
-    int largcol = 1700;  ///< width of a day column that holds hours
-    int hautligne = 580; ///< height of a row
+    int largcol = 1700;   ///< width of a day column that holds hours
+    int hautligne = 580;  ///< height of a row
+    int hautentete = 290; ///< height of a header row
 };
 
 /// A run of cells that changed, both corners included, in grid rows and columns.

@@ -3,6 +3,7 @@
 #include "month/twips.h"
 
 #include <QHelpEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
 
@@ -19,7 +20,7 @@ constexpr int marge = 4;
 
 void peintCase(QPainter &painter, const QRect &rect, const Case &une, Qt::Alignment alignement)
 {
-    painter.fillRect(rect, QColor::fromRgb(une.fond));
+    painter.fillRect(rect, QColor::fromRgba(une.fond));
     painter.setPen(QColor::fromRgb(filet));
     painter.drawLine(rect.topRight(), rect.bottomRight());
     painter.drawLine(rect.bottomLeft(), rect.bottomRight());
@@ -89,6 +90,16 @@ int EnteteJours::finGroupe(int rangee, int section) const
     return fin;
 }
 
+/// The backgrounds of a group, each in its own colour: a month's band may change within a week's label.
+void EnteteJours::peintFonds(QPainter &painter, int rangee, int debut, int fin, const QRect &bande) const
+{
+    for (int section = debut; section <= fin; ++section) {
+        const Case &une = m_modele.grille().lit(rangee, ModeleGrille::colonneGrille(section));
+        painter.fillRect(sectionViewportPosition(section), bande.top(), sectionSize(section), bande.height(),
+                         QColor::fromRgb(une.fond));
+    }
+}
+
 void EnteteJours::peintRangee(QPainter &painter, int rangee, int haut) const
 {
     if (count() == 0) return;
@@ -98,9 +109,11 @@ void EnteteJours::peintRangee(QPainter &painter, int rangee, int haut) const
         const int fin = finGroupe(rangee, section);
         const int gauche = qMax(sectionViewportPosition(section), 0);
         const int droite = qMin(sectionViewportPosition(fin) + sectionSize(fin), viewport()->width());
-        const Case &une = m_modele.grille().lit(rangee, ModeleGrille::colonneGrille(section));
+        peintFonds(painter, rangee, section, fin, {0, haut, 0, hauteur});
+        Case libelle = m_modele.grille().lit(rangee, ModeleGrille::colonneGrille(section));
+        libelle.fond = qRgba(0, 0, 0, 0);
         if (droite > gauche)
-            peintCase(painter, {gauche, haut, droite - gauche, hauteur}, une, Qt::AlignCenter);
+            peintCase(painter, {gauche, haut, droite - gauche, hauteur}, libelle, Qt::AlignCenter);
         section = fin + 1;
     }
 }
@@ -109,7 +122,7 @@ EnteteLignes::EnteteLignes(ModeleGrille &modele, QWidget *parent)
     : QHeaderView(Qt::Vertical, parent), m_modele(modele)
 {
     setSectionResizeMode(QHeaderView::Fixed);
-    setSectionsClickable(true);
+    setSectionsClickable(false);
     setHighlightSections(false);
     setMinimumSectionSize(1);
     connect(&modele, &ModeleGrille::enteteChangee, this, [this](Qt::Orientation orientation) {
@@ -149,6 +162,12 @@ bool EnteteLignes::viewportEvent(QEvent *event)
             m_modele.grille().lit(ModeleGrille::ligneGrille(section), Grille::colonneNom).texte, this);
     }
     return true;
+}
+
+void EnteteLignes::mousePressEvent(QMouseEvent *event)
+{
+    const int section = logicalIndexAt(event->pos());
+    if (event->button() == Qt::LeftButton && section >= 0) emit nomClique(section);
 }
 
 CoinGrille::CoinGrille(ModeleGrille &modele, const EnteteJours &entete, QWidget *parent)

@@ -24,6 +24,7 @@ protected:
 
 private:
     void peintRangee(QPainter &painter, int rangee, int haut) const;
+    void peintFonds(QPainter &painter, int rangee, int debut, int fin, const QRect &bande) const;
     [[nodiscard]] int finGroupe(int rangee, int section) const;
 
     ModeleGrille &m_modele;
@@ -39,9 +40,14 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override;
 
+signals:
+    /// The left button went down on a line's name or state.
+    void nomClique(int section);
+
 protected:
     void paintSection(QPainter *painter, const QRect &rect, int section) const override;
     bool viewportEvent(QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
 
 private:
     ModeleGrille &m_modele;

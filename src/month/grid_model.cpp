@@ -1,5 +1,7 @@
 #include "month/grid_model.h"
 
+#include <algorithm>
+
 namespace velmora
 {
 

@@ -2,6 +2,7 @@
 
 #include "month/cursor.h"
 #include "month/grid_headers.h"
+#include "month/selection.h"
 #include "month/twips.h"
 
 #include <QKeyEvent>
@@ -9,8 +10,18 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
+#include <algorithm>
+
 namespace velmora
 {
+
+namespace
+{
+
+// Between a cell and its popup menu, in twips.
+constexpr int ecartMenu = 50;
+
+} // namespace
 
 void PeintreCase::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
@@ -37,6 +48,8 @@ VueGrille::VueGrille(Planning &planning, QWidget *parent)
     setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     connect(&m_modele, &ModeleGrille::taillesChangees, this, &VueGrille::appliqueTailles);
+    connect(&m_modele, &ModeleGrille::modelReset, this, &VueGrille::suitCurseur);
+    connect(m_lignes, &EnteteLignes::nomClique, this, &VueGrille::montreRapport);
 }
 
 void VueGrille::appliqueTailles()
@@ -45,8 +58,10 @@ void VueGrille::appliqueTailles()
     for (int colonne = Grille::colonnesFixes; colonne < grille.colonnes(); ++colonne)
         m_jours->resizeSection(ModeleGrille::colonneVue(colonne), pixels(grille.largeur(colonne), *this));
     // Only the rows that differ from the usual height are set one by one.
-    if (grille.derniereLigne() > Grille::lignesFixes)
-        m_lignes->setDefaultSectionSize(pixels(grille.hauteur(Grille::lignesFixes), *this));
+    int usuelle = grille.hauteur(Grille::lignesFixes);
+    for (int ligne = Grille::lignesFixes; ligne < grille.derniereLigne(); ++ligne)
+        usuelle = std::min(usuelle, grille.hauteur(ligne));
+    m_lignes->setDefaultSectionSize(pixels(usuelle, *this));
     for (int ligne = Grille::lignesFixes; ligne < grille.lignes(); ++ligne) {
         const int section = ModeleGrille::ligneVue(ligne);
         const int hauteur = pixels(grille.hauteur(ligne), *this);
@@ -62,6 +77,19 @@ void VueGrille::montreGrille()
     appliqueTailles();
     suitCurseur();
     montreGauche();
+}
+
+/// A click on a line's fixed columns asks for its report; the cursor keeps its column.
+void VueGrille::montreRapport(int section)
+{
+    emit gesteCommence();
+    if (!m_planning.grille.estLigne(ModeleGrille::ligneGrille(section))) return;
+    m_planning.rapportdemande = true;
+    const QModelIndex but = m_modele.index(section, ModeleGrille::colonneVue(m_planning.curseur.colonne));
+    if (but != currentIndex())
+        setCurrentIndex(but);
+    else
+        emit caseAtteinte();
 }
 
 void VueGrille::montreGauche()
@@ -93,6 +121,7 @@ void VueGrille::currentChanged(const QModelIndex &current, const QModelIndex &pr
 {
     QTableView::currentChanged(current, previous);
     if (m_place || !m_planning.suivi || !current.isValid()) return;
+    emit caseQuittee();
     m_planning.curseur = {ModeleGrille::ligneGrille(current.row()),
                           ModeleGrille::colonneGrille(current.column())};
     emit caseAtteinte();
@@ -114,22 +143,87 @@ QModelIndex VueGrille::moveCursor(CursorAction action, Qt::KeyboardModifiers mod
     return m_modele.index(ModeleGrille::ligneVue(but.ligne), ModeleGrille::colonneVue(but.colonne));
 }
 
+void VueGrille::mousePressEvent(QMouseEvent *event)
+{
+    emit gesteCommence();
+    const QModelIndex dessous = indexAt(event->pos());
+    if (event->button() == Qt::LeftButton) {
+        QTableView::mousePressEvent(event);
+        if (dessous.isValid()) commenceSelection(m_planning);
+    } else if (event->button() == Qt::RightButton && dessous.isValid() && !m_planning.selection.selact) {
+        setCurrentIndex(dessous);
+    }
+}
+
+void VueGrille::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_planning.selection.selglisse && event->buttons() & Qt::LeftButton) glisse(event->pos().x());
+}
+
+/// The selection follows the pointer on its own row; past the edge the grid follows too.
+void VueGrille::glisse(int x)
+{
+    if (x >= viewport()->width()) {
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() + 1);
+        x = viewport()->width() - 1;
+    }
+    const int colonne = columnAt(x);
+    if (colonne < 0) return;
+    glisseSelection(m_planning, ModeleGrille::colonneGrille(colonne));
+    viewport()->repaint();
+}
+
+void VueGrille::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton && m_planning.selection.selglisse) {
+        finitSelection(m_planning);
+        suitCurseur();
+        if (!curseurVisible(ModeleGrille::colonneGrille(horizontalScrollBar()->value())))
+            horizontalScrollBar()->setValue(ModeleGrille::colonneVue(m_planning.curseur.colonne));
+        emit selectionFinie();
+    } else if (event->button() == Qt::RightButton && indexAt(event->pos()).isValid()) {
+        emit menuDemande(pointMenu());
+    }
+    QTableView::mouseReleaseEvent(event);
+}
+
+/// Right of a cell in the left half of the grid, left of one in the right half, at its top.
+QPoint VueGrille::pointMenu() const
+{
+    const QRect rect = rectCurseur();
+    const int ecart = pixels(ecartMenu, *this);
+    const bool gauche = rect.left() < viewport()->width() / 2;
+    return viewport()->mapToGlobal(QPoint(gauche ? rect.right() + ecart : rect.left() - ecart, rect.top()));
+}
+
 void VueGrille::mouseDoubleClickEvent(QMouseEvent *event)
 {
     QTableView::mouseDoubleClickEvent(event);
     if (event->button() == Qt::LeftButton && indexAt(event->pos()).isValid()) emit doubleClic();
 }
 
+/// One row a notch, within the lines.
+void VueGrille::wheelEvent(QWheelEvent *event)
+{
+    if (!m_planning.suivi || event->angleDelta().y() == 0) return QTableView::wheelEvent(event);
+    const int sens = event->angleDelta().y() > 0 ? -1 : 1;
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + sens);
+    event->accept();
+}
+
 void VueGrille::keyPressEvent(QKeyEvent *event)
 {
+    emit gesteCommence();
     const QString texte = event->text();
     const bool caractere = !texte.isEmpty() && texte.front().isPrint() &&
                            !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
-    if (caractere) {
+    if (event->key() == Qt::Key_Delete) {
+        if (!(event->modifiers() & Qt::ShiftModifier)) emit suppression();
+    } else if (caractere) {
         emit touche(texte);
-        return;
+    } else {
+        QTableView::keyPressEvent(event);
     }
-    QTableView::keyPressEvent(event);
 }
 
 void VueGrille::resizeEvent(QResizeEvent *event)

@@ -40,27 +40,45 @@ public:
     /// Scrolls to the planning's left column.
     void montreGauche();
     [[nodiscard]] ModeleGrille &modele() { return m_modele; }
+    /// The rectangle of the cursor's cell in the viewport.
+    [[nodiscard]] QRect rectCurseur() const { return visualRect(indexCurseur()); }
     /// Whether the cursor's column is in view when `gauche` is the first column shown.
     [[nodiscard]] bool curseurVisible(int gauche) const;
 
 signals:
     /// The user moved the cursor to the planning's `curseur`.
     void caseAtteinte();
+    /// The cursor leaves its cell for another by the user's doing.
+    void caseQuittee();
     void doubleClic();
+    /// A button of the mouse went down on the grid, or a key: the refresh waits.
+    void gesteCommence();
+    /// The left button came up; the selection is what it is now.
+    void selectionFinie();
+    /// The right button came up on a cell: the popup menu is wanted at this point of the screen.
+    void menuDemande(const QPoint &point);
+    void suppression();
     /// A key that stands for a character was pressed on the grid.
     void touche(const QString &texte);
 
 protected:
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void updateGeometries() override;
 
 private:
     void appliqueTailles();
+    void glisse(int x);
+    void montreRapport(int section);
     [[nodiscard]] QModelIndex indexCurseur() const;
+    [[nodiscard]] QPoint pointMenu() const;
 
     Planning &m_planning;
     ModeleGrille m_modele;

@@ -1,15 +1,12 @@
 #include "month/highlight.h"
 
+#include "month/selection.h"
+
 namespace velmora
 {
 
 namespace
 {
-
-struct Couleurs {
-    QRgb fond;
-    QRgb encre;
-};
 
 /// The label of a day column; total columns keep theirs.
 void coloreJour(Planning &planning, int colonne, const Couleurs &couleurs)
@@ -30,21 +27,30 @@ void rendCouleurs(Planning &planning)
     const Place place = planning.surbrillance.place;
     Grille &grille = planning.grille;
     if (place.ligne < 0 || place.ligne >= grille.lignes()) return;
-    grille.colore(place.ligne, place.colonne, planning.surbrillance.fond, planning.surbrillance.encre);
+    if (!estSelectionnee(planning, place))
+        grille.colore(place.ligne, place.colonne, planning.surbrillance.fond, planning.surbrillance.encre);
     grille.colore(place.ligne, Grille::colonneNom, palette::fondFixe, palette::encreFixe);
     coloreJour(planning, place.colonne, couleursJour(planning, place.colonne));
 }
 
 } // namespace
 
+Couleurs couleursPropres(const Planning &planning, const Place &place)
+{
+    if (place == planning.surbrillance.place)
+        return {planning.surbrillance.fond, planning.surbrillance.encre};
+    if (estSelectionnee(planning, place)) return planning.selection.couleurs.value(place.colonne);
+    const Case &une = planning.grille.lit(place.ligne, place.colonne);
+    return {une.fond, une.encre};
+}
+
 void coloreCase(Planning &planning, const Place &place, QRgb fond, QRgb encre)
 {
-    if (place != planning.surbrillance.place) {
-        planning.grille.colore(place.ligne, place.colonne, fond, encre);
-        return;
-    }
-    planning.surbrillance.fond = fond;
-    planning.surbrillance.encre = encre;
+    const bool surbrillante = place == planning.surbrillance.place;
+    const bool selectionnee = estSelectionnee(planning, place);
+    if (surbrillante) planning.surbrillance = {place, fond, encre};
+    if (selectionnee) planning.selection.couleurs.insert(place.colonne, {fond, encre});
+    if (!surbrillante && !selectionnee) planning.grille.colore(place.ligne, place.colonne, fond, encre);
 }
 
 void quitteRangee(Planning &planning, int rangee)
@@ -65,8 +71,8 @@ void deplaceSurbrillance(Planning &planning)
     rendCouleurs(planning);
     grille.colore(place.ligne, Grille::colonneNom, palette::fondSelection, palette::encreSelection);
     coloreJour(planning, place.colonne, {palette::fondSelection, palette::encreSelection});
-    const Case &courante = grille.lit(place.ligne, place.colonne);
-    planning.surbrillance = {place, courante.fond, courante.encre};
+    const Couleurs propres = couleursPropres(planning, place);
+    planning.surbrillance = {place, propres.fond, propres.encre};
     grille.colore(place.ligne, place.colonne, palette::fondSelection, palette::encreSelection);
 }
 

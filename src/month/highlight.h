@@ -5,7 +5,10 @@
 namespace velmora
 {
 
-/// Gives a cell its own colours. On the highlighted cell they wait as its saved colours.
+/// The colours that a cell has when it is neither highlighted nor selected.
+[[nodiscard]] Couleurs couleursPropres(const Planning &planning, const Place &place);
+
+/// Gives a cell its own colours. On the highlighted cell and on selected ones they wait as its saved colours.
 void coloreCase(Planning &planning, const Place &place, QRgb fond, QRgb encre);
 
 /// Moves the highlight to the current cell: the previous cell, its name and its day label get their colours

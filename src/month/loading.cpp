@@ -1,5 +1,6 @@
 #include "month/loading.h"
 
+#include "month/cursor.h"
 #include "month/refresh.h"
 #include "month/rows.h"
 #include "session/batch.h"
@@ -13,15 +14,13 @@ namespace velmora
 namespace
 {
 
-// A column or row below this width or height, in twips, counts as hidden.
-constexpr int largeurVisible = 150;
 constexpr int pasGauche = 8;
 constexpr int essaisGauche = 4;
 
 int colonneDuJour(const Planning &planning, const QDate &date)
 {
     const int colonne = planning.colonnes.colonneDe(date);
-    return colonne >= 0 && planning.grille.largeur(colonne) > largeurVisible ? colonne : -1;
+    return colonne >= 0 && planning.grille.largeur(colonne) > tailleVisible ? colonne : -1;
 }
 
 /// Today's column, or that of the first of the month, or the first.
@@ -151,6 +150,8 @@ bool chargi(Planning &planning, const Chargement &chargement)
             return false;
         }
         planning.curseur = {Grille::lignesFixes, colonneDepart(planning)};
+        planning.colprec = planning.curseur.colonne;
+        planning.rowprec = planning.curseur.ligne;
         totalise(planning);
         planning.colonneGauche = colonneDuPremier(planning);
     }

@@ -1,7 +1,9 @@
 #include "month/month_menus.h"
 
 #include <QAction>
+#include <QKeySequence>
 #include <QMenu>
+#include <QWidget>
 
 namespace velmora
 {
@@ -55,6 +57,16 @@ QList<EntreeMenu> fonctions()
             {"mnusup", QStringLiteral("Supprimer (abs. /  heures saisies)   Suppr./")}};
 }
 
+/// The small letters of its last two captions are wanted.
+QList<EntreeMenu> popup()
+{
+    return {{"maccoupe", QStringLiteral("Couper")},
+            {"macab2", {}},
+            {"maccopier", QStringLiteral("copier")},
+            {"macb1", {}},
+            {"maccolle", QStringLiteral("coller")}};
+}
+
 QList<EntreeMenu> impressions()
 {
     return {{"mnuhor", QStringLiteral("Horaires Pratiqués")},
@@ -72,24 +84,45 @@ QList<EntreeMenu> impressions()
 
 } // namespace
 
-MenusMois::MenusMois(QWidget *parent) : QObject(parent), m_parent(parent)
+MenusMois::MenusMois(QWidget *parent) : QObject(parent), m_parent(parent), m_maca(new QMenu(parent))
 {
-    ajouteMenu(QStringLiteral("Affichage"), affichage());
-    ajouteMenu(QStringLiteral("   Lignes de planning  "), lignes());
-    ajouteMenu(QStringLiteral("   Fonctions   "), fonctions());
-    ajouteMenu(QStringLiteral("   Impressions  /  Export..."), impressions());
+    m_maca->setObjectName(QStringLiteral("maca"));
+    for (const EntreeMenu &entree : popup())
+        ajouteEntree(m_maca, entree);
+    ajouteMenu("mnuaff", QStringLiteral("Affichage"), affichage());
+    ajouteMenu("mnulig", QStringLiteral("   Lignes de planning  "), lignes());
+    ajouteMenu("mnufonc", QStringLiteral("   Fonctions   "), fonctions());
+    ajouteMenu("mnuimp", QStringLiteral("   Impressions  /  Export..."), impressions());
     for (const EntreeMenu &entree :
          {EntreeMenu{"mnuaid", QStringLiteral("?")}, EntreeMenu{"mnuferm", QStringLiteral("   Fermer")}}) {
         ajouteEntree(nullptr, entree);
         m_barre << this->entree(QLatin1String(entree.nom));
     }
+    poseRaccourcis();
 }
 
-void MenusMois::ajouteMenu(const QString &titreMenu, const QList<EntreeMenu> &entrees)
+/// The shortcuts are the form's own too: they work whatever holds its menus.
+void MenusMois::poseRaccourcis()
+{
+    const QHash<QString, QKeySequence> touches{
+        {QStringLiteral("mnucoupe"), QKeySequence::Cut},
+        {QStringLiteral("mnucopier"), QKeySequence::Copy},
+        {QStringLiteral("mnucoller"), QKeySequence::Paste},
+        {QStringLiteral("mnuundo"), QKeySequence::Undo},
+        {QStringLiteral("mnudo"), QKeySequence(QStringLiteral("Ctrl+Y"))},
+        {QStringLiteral("mnuaid"), QKeySequence::HelpContents}};
+    for (auto touche = touches.begin(); touche != touches.end(); ++touche) {
+        entree(touche.key())->setShortcut(touche.value());
+        m_parent->addAction(entree(touche.key()));
+    }
+}
+
+void MenusMois::ajouteMenu(const char *nom, const QString &titreMenu, const QList<EntreeMenu> &entrees)
 {
     auto *menu = new QMenu(titreMenu, m_parent);
     for (const EntreeMenu &entree : entrees)
         ajouteEntree(menu, entree);
+    menu->menuAction()->setObjectName(QLatin1String(nom));
     m_barre << menu->menuAction();
 }
 
@@ -116,18 +149,32 @@ void MenusMois::permet(const QString &nom, bool permise)
     entree(nom)->setEnabled(permise && m_liees.contains(nom));
 }
 
+void MenusMois::permetMenus(bool permis)
+{
+    for (QAction *menu : m_barre)
+        if (menu->menu()) menu->setEnabled(permis);
+    m_maca->setEnabled(permis);
+    for (const QString &nom : m_liees)
+        if (!m_barre.contains(entree(nom))) entree(nom)->setEnabled(permis);
+}
+
 void MenusMois::montre(const EtatCommandes &etat)
 {
     permet(QStringLiteral("mnucoupe"), etat.couper);
+    permet(QStringLiteral("maccoupe"), etat.couper);
     permet(QStringLiteral("mnucopier"), etat.copier);
+    permet(QStringLiteral("maccopier"), etat.copier);
     permet(QStringLiteral("mnucoller"), etat.coller);
+    permet(QStringLiteral("maccolle"), etat.coller);
     permet(QStringLiteral("mnuundo"), etat.annuler);
     permet(QStringLiteral("mnudo"), etat.refaire);
     permet(QStringLiteral("mnuabs"), etat.absence);
     permet(QStringLiteral("mnufermlig"), etat.fermerLigne);
     permet(QStringLiteral("mnureouv"), etat.reouvrirLigne);
     permet(QStringLiteral("mnurenlig"), etat.renommerLigne);
-    entree(QStringLiteral("mnuimpi"))->setText(QStringLiteral("Planning de ") + etat.ligneCourante);
+    entree(QStringLiteral("mnuimpi"))
+        ->setText(QStringLiteral("Planning de ") +
+                  QString(etat.ligneCourante).replace(QLatin1Char('&'), QStringLiteral("&&")));
 }
 
 } // namespace velmora

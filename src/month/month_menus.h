@@ -25,6 +25,8 @@ public:
     explicit MenusMois(QWidget *parent);
 
     [[nodiscard]] QList<QAction *> barre() const { return m_barre; }
+    /// The grid's popup menu.
+    [[nodiscard]] QMenu *maca() const { return m_maca; }
     /// The entry of a name, for example "mnusais".
     [[nodiscard]] QAction *entree(const QString &nom) const { return m_entrees.value(nom); }
 
@@ -38,15 +40,20 @@ public:
 
     [[nodiscard]] bool estLiee(const QString &nom) const { return m_liees.contains(nom); }
 
+    /// Opens or closes the menus as a whole, while a cell takes a code.
+    void permetMenus(bool permis);
+
     /// Opens and closes the entries as the commands stand.
     void montre(const EtatCommandes &etat);
 
 private:
-    void ajouteMenu(const QString &titreMenu, const QList<EntreeMenu> &entrees);
+    void ajouteMenu(const char *nom, const QString &titreMenu, const QList<EntreeMenu> &entrees);
     void ajouteEntree(QMenu *menu, const EntreeMenu &entree);
+    void poseRaccourcis();
     void permet(const QString &nom, bool permise);
 
     QWidget *m_parent;
+    QMenu *m_maca;
     QList<QAction *> m_barre;
     QHash<QString, QAction *> m_entrees;
     QStringList m_liees;

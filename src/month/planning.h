@@ -1,6 +1,7 @@
 #pragma once
 
 #include "month/cells.h"
+#include "month/clipboard.h"
 #include "month/columns.h"
 #include "month/commands.h"
 #include "month/grid.h"
@@ -26,14 +27,21 @@ struct Surbrillance {
     QRgb encre = 0;
 };
 
+/// The colours that a cell has of its own.
+struct Couleurs {
+    QRgb fond = palette::fond;
+    QRgb encre = palette::encre;
+};
+
 /// A run of columns on one row. It only grows to the right; `selfin` below `seldeb` is the empty state of a
 /// drag that came back onto its anchor.
 struct Selection {
-    bool selact = false;    ///< a selection exists
-    bool selglisse = false; ///< the left button is dragging
-    int selligne = 0;       ///< its row
-    int seldeb = 0;         ///< anchor column
-    int selfin = 0;         ///< last selected column
+    bool selact = false;             ///< a selection exists
+    bool selglisse = false;          ///< the left button is dragging
+    int selligne = 0;                ///< its row
+    int seldeb = 0;                  ///< anchor column
+    int selfin = 0;                  ///< last selected column
+    QHash<int, Couleurs> couleurs{}; ///< own colours of the selected cells, by column
 };
 
 /// An open month: what the month form shows, without the form. The procedures of this folder work on it;
@@ -59,12 +67,12 @@ struct Planning {
     int rowprec = Grille::lignesFixes;
     int colonneGauche = Grille::colonnesFixes; ///< first day column in view
     Surbrillance surbrillance;
-    bool rapportdemande = false; ///< the next refresh shows the labour report of the current line
+    bool rapportdemande = false; ///< the current line's labour report was asked for; the next refresh answers
     QString texteStatut;         ///< status text of the current cell
     QDate dateStatut;
     EtatCommandes commandes;
     Selection selection;
-    int cliplong = 0;      ///< days held by cut and copy
+    Pressepapiers pressepapiers;
     store::Status lecture; ///< first failure of a read since the load or the refill began
 
     /// Keeps the first failure among the reads of a load or a refill.

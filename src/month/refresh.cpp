@@ -38,7 +38,7 @@ void commandesCellule(Planning &planning, const Ligne &ligne)
         etat.couper = etat.copier = etat.coller = false;
     else if (!session.base.sitper.seek(store::Cmp::Eq, {nump, date}))
         etat.couper = etat.copier = false;
-    if (planning.cliplong == 0) etat.coller = false;
+    if (planning.pressepapiers.cliplong() == 0) etat.coller = false;
 }
 
 } // namespace
@@ -78,6 +78,7 @@ void cycle(Planning &planning)
     majcommandes(planning);
     planning.commandes.ligneCourante = planning.grille.lit(place.ligne, Grille::colonneNom).texte;
     planning.commandes.renommerLigne = true;
+    planning.rapportdemande = false;
 }
 
 } // namespace velmora

@@ -23,9 +23,15 @@ template <class Image> void retireImages(store::Table<Image> &images, int numop,
     }
 }
 
+Status commitBoth(Engine &first, Engine &second)
+{
+    const Status status = first.commit();
+    return status.ok() ? second.commit() : status;
+}
+
 } // namespace
 
-Batch::Batch(Session &session) : m_session(session)
+Batch::Batch(Session &session, Kind kind) : m_session(session), m_kind(kind)
 {
     m_session.batch = this;
 }
@@ -41,10 +47,10 @@ Status Batch::begin()
     const Status status = m_session.base.engine.begin(Engine::Transaction::Write);
     m_begun = status.ok();
     if (!m_begun) return status;
-    m_session.journal.engine.begin(Engine::Transaction::Write).ignore();
+    const Status journal = m_session.journal.engine.begin(Engine::Transaction::Write);
     m_avant = anneau();
     if (m_step) m_step->marque();
-    return status;
+    return m_kind == Kind::Recording ? status : journal;
 }
 
 Status Batch::commit()
@@ -53,21 +59,24 @@ Status Batch::commit()
     Engine &journal = m_session.journal.engine;
     if (!m_begun) return m_echec;
     // The engine gives a transaction up by itself when the disk fails.
-    if (m_echec.ok() && !base.inTransaction())
-        m_echec = {Status::Code::Io, QStringLiteral("the transaction is gone")};
-    if (!m_echec.ok()) {
-        rollback();
-        return m_echec;
-    }
+    const bool whole = base.inTransaction() && (m_kind == Kind::Recording || journal.inTransaction());
+    if (m_echec.ok() && !whole) m_echec = {Status::Code::Io, QStringLiteral("the transaction is gone")};
+    if (m_echec.ok()) m_echec = m_kind == Kind::Undo ? commitBoth(base, journal) : commitJournalFirst();
+    if (!m_echec.ok()) rollback();
     m_begun = false;
-    const bool recorded = journal.inTransaction() && journal.commit().ok();
-    journal.rollback();
-    m_echec = base.commit();
-    if (m_echec.ok()) return {};
-    base.rollback();
-    if (recorded) reprendJournal();
-    remetSession();
     return m_echec;
+}
+
+Status Batch::commitJournalFirst()
+{
+    Engine &base = m_session.base.engine;
+    Engine &journal = m_session.journal.engine;
+    const Status recorded = journal.inTransaction() ? journal.commit() : Status{};
+    if (!recorded.ok() && m_kind == Kind::Redo) return recorded;
+    journal.rollback();
+    const Status written = base.commit();
+    if (!written.ok() && recorded.ok()) reprendJournal();
+    return written;
 }
 
 void Batch::rollback()
@@ -181,23 +190,24 @@ bool reessayable(Status::Code code)
     return code != Status::Code::NoRow && code != Status::Code::Constraint && code != Status::Code::Misuse;
 }
 
-Status unLot(Session &session, const std::function<Status()> &work)
+Status unLot(Session &session, const std::function<Status()> &work, Batch::Kind kind)
 {
-    Batch batch(session);
+    Batch batch(session, kind);
     Status status = batch.begin();
     if (status.ok()) status = work();
+    if (!status.ok() && kind != Batch::Kind::Recording) return status;
     const Status committed = batch.commit();
     return status.ok() ? committed : status;
 }
 
 } // namespace
 
-bool enLot(Session &session, const std::function<Status()> &work)
+bool enLot(Session &session, const std::function<Status()> &work, Batch::Kind kind)
 {
     // The edits of a command that this one interrupts stay.
     const auto tenues = session.batch ? session.base.editing() : std::vector<store::TableBase *>{};
     for (int essai = 1;; ++essai) {
-        const Status status = session.batch ? work() : unLot(session, work);
+        const Status status = session.batch ? work() : unLot(session, work, kind);
         if (status.ok()) return true;
         session.base.cancelUpdates(tenues);
         const Batch::Pause released(session.batch);

@@ -12,13 +12,21 @@ class BatchStep;
 
 /// The rows of one command, written in one transaction over both databases. The main file is this session's
 /// alone from `begin` on, so that another workstation's lock can only be met there; whoever reads meanwhile
-/// waits. The journal is committed first: if the machine stops between the two commits, undoing the recorded
-/// operation is harmless. When the main file's commit fails, the recording is taken back. A failure of the
-/// journal alone is passed over, and the planning still changes.
+/// waits.
 class Batch
 {
 public:
-    explicit Batch(Session &session);
+    /// Two files can't be committed at once. What each kind commits first is such that, if the machine stops
+    /// between the two commits, the journal shows the operation in force, keeps its images, and undoing it
+    /// is harmless: images are written over whatever the rows hold.
+    enum class Kind {
+        Recording, ///< journal first; a failure of the journal alone is passed over and the planning changes;
+                   ///< when the planning's commit fails, the recording is taken back
+        Undo,      ///< planning first; whole or not at all: else rows could stay that no undo reaches
+        Redo       ///< journal first; whole or not at all
+    };
+
+    explicit Batch(Session &session, Kind kind = Kind::Recording);
     ~Batch();
     Batch(const Batch &) = delete;
     Batch &operator=(const Batch &) = delete;
@@ -57,11 +65,13 @@ private:
     };
 
     [[nodiscard]] Anneau anneau();
+    [[nodiscard]] store::Status commitJournalFirst();
     void remetSession();
     void reprendJournal();
     void remetOperations(int ouverte);
 
     Session &m_session;
+    Kind m_kind;
     BatchStep *m_step = nullptr; ///< the part that is being written
     bool m_begun = false;        ///< a transaction was taken and not ended yet
     store::Status m_echec;       ///< a commit that failed
@@ -99,9 +109,11 @@ private:
 /// ends. After a failure in which the engine gave the transaction up by itself nothing of the command stands,
 /// and its operation isn't in the ring. A failure that another try can't mend (a missing row, a key that is
 /// already there, a misuse) is told in a message, and the command is given up.
-/// A batch within a batch joins it: a wait that lets events run may start another command.
+/// An undo or a redo that fails is taken back whole before the question. A batch within a batch joins it: a
+/// wait that lets events run may start another command.
 /// Returns false when the command was given up.
-bool enLot(Session &session, const std::function<store::Status()> &work);
+bool enLot(Session &session, const std::function<store::Status()> &work,
+           Batch::Kind kind = Batch::Kind::Recording);
 
 /// A read transaction around a pass, so that the pass sees one state of the file and locks it once. Within
 /// a transaction it does nothing.

@@ -13,10 +13,13 @@ template <class Widget> Widget *nomme(Widget *widget, const char *nom)
     return widget;
 }
 
-/// A label and a button under their names.
+/// A label and a button under their names. A label shows its text as it stands: names of lines and folders
+/// are never read as markup.
 inline QLabel *etiquette(QWidget *parent, const char *nom, const QString &texte)
 {
-    return nomme(new QLabel(texte, parent), nom);
+    auto *const label = nomme(new QLabel(texte, parent), nom);
+    label->setTextFormat(Qt::PlainText);
+    return label;
 }
 
 inline QPushButton *bouton(QWidget *parent, const char *nom, const QString &texte)

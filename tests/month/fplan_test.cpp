@@ -114,6 +114,81 @@ TEST_F(FplanTest, AClickShowsTheDayAndTheLastRowAndTotalsAreNeverEntered)
     EXPECT_EQ(planning().date(planning().curseur.colonne), planning().periode.fingrille);
 }
 
+TEST_F(FplanTest, TheFirstMoveAfterTheLoadGoesTheWayOfTheKey)
+{
+    openMonth(); // today, 15 June 2026, is a Monday
+    QTest::keyClick(grid(), Qt::Key_Left);
+    settle();
+    EXPECT_EQ(planning().date(planning().curseur.colonne), QDate(2026, 6, 14));
+    EXPECT_TRUE(planning().colonnes.estJour(planning().curseur.colonne));
+}
+
+TEST_F(FplanTest, AClickOnANameChangesTheLineAndKeepsTheColumn)
+{
+    openMonth();
+    const int before = planning().curseur.colonne;
+    QTest::mouseClick(grid()->verticalHeader()->viewport(), Qt::LeftButton, {},
+                      {5, grid()->rowViewportPosition(1) + 4});
+    settle();
+    EXPECT_EQ(planning().curseur.ligne, 4);
+    EXPECT_EQ(planning().curseur.colonne, before);
+}
+
+TEST_F(FplanTest, ADragSelectsDaysOfOneLineAndAMoveGivesTheirColoursBack)
+{
+    openMonth();
+    const auto drag = [this](const QDate &from, const QDate &to) {
+        const QPoint start = at(1, from);
+        const QPoint end = at(2, to); // a row below: the row is forced back
+        QTest::mousePress(grid()->viewport(), Qt::LeftButton, {}, start);
+        QMouseEvent move(QEvent::MouseMove, end, grid()->viewport()->mapToGlobal(end), Qt::NoButton,
+                         Qt::LeftButton, {});
+        QApplication::sendEvent(grid()->viewport(), &move);
+        QTest::mouseRelease(grid()->viewport(), Qt::LeftButton, {}, end);
+        settle();
+    };
+    drag(QDate(2026, 6, 4), QDate(2026, 6, 8)); // over the week's total
+    EXPECT_TRUE(planning().selection.selact);
+    EXPECT_EQ(planning().selection.couleurs.size(), 5);
+    EXPECT_EQ(planning().curseur, (Place{3, column(QDate(2026, 6, 4))}));
+    QTest::keyClick(grid(), Qt::Key_Down);
+    settle();
+    EXPECT_FALSE(planning().selection.selact);
+    for (int day = 4; day <= 8; ++day)
+        EXPECT_NE(planning().grille.lit(3, column(QDate(2026, 6, day))).fond, palette::fondSelection) << day;
+    drag(QDate(2026, 6, 5), QDate(2026, 6, 3)); // to the left of the anchor
+    EXPECT_FALSE(planning().selection.selact);
+    EXPECT_TRUE(planning().suivi);
+}
+
+TEST_F(FplanTest, ACodeTypedInACellIsCheckedAndEscapeWritesNothing)
+{
+    station.addCode(QStringLiteral(" R"), 0);
+    openMonth();
+    click(1, QDate(2026, 6, 4));
+    auto *text = form->findChild<QLineEdit *>(QStringLiteral("Text1"));
+    QTest::keyClicks(grid(), QStringLiteral("z"));
+    ASSERT_TRUE(text->isVisible());
+    EXPECT_EQ(text->text(), QStringLiteral("Z"));
+    EXPECT_TRUE(text->isEnabled());
+    EXPECT_TRUE(text->hasFocus());
+    EXPECT_FALSE(grid()->isEnabled());
+    EXPECT_EQ(form->findChild<QLabel *>(QStringLiteral("Labeli1"))->text(),
+              QStringLiteral("ANNE  à dater 04/06/2026"));
+    station.host.expectMessage(QStringLiteral("code Absence non autorisé ou erroné!"));
+    QTest::keyClicks(text, QStringLiteral("z"));
+    EXPECT_EQ(text->text(), QString());
+    QTest::keyClick(text, Qt::Key_Escape);
+    settle();
+    EXPECT_FALSE(text->isVisible());
+    EXPECT_TRUE(grid()->isEnabled());
+    QTest::keyClicks(grid(), QStringLiteral("r"));
+    QTest::keyClick(text, Qt::Key_Return);
+    settle();
+    EXPECT_FALSE(text->isVisible());
+    EXPECT_EQ(session.base.absences.recordCount(), 0);
+}
+
 TEST_F(FplanTest, OneEntryChangesCellWeekMonthColumnTotalsAndJournal)
 {
     openMonth();
@@ -136,6 +211,35 @@ TEST_F(FplanTest, OneEntryChangesCellWeekMonthColumnTotalsAndJournal)
     EXPECT_TRUE(planning().commandes.annuler);
     ASSERT_TRUE(session.journal.logop.seek(store::Cmp::Eq, {1}));
     EXPECT_EQ(session.journal.logop.row().libop, QStringLiteral("nouvel horaire: ANNE le 03/06/2026"));
+}
+
+TEST_F(FplanTest, CopyPasteDeleteUndoAndRedoByKeysChangeGridAndFiles)
+{
+    openMonth();
+    click(1, june3);
+    QTest::keyClick(grid(), Qt::Key_C, Qt::ControlModifier);
+    settle();
+    click(1, QDate(2026, 6, 4));
+    EXPECT_TRUE(planning().commandes.coller);
+    QTest::keyClick(grid(), Qt::Key_V, Qt::ControlModifier);
+    settle();
+    EXPECT_EQ(cell(1, QDate(2026, 6, 4)), cell(1, june3));
+    station.host.expectQuestion(QStringLiteral("Suppression horaire(s) ?"), true);
+    QTest::keyClick(grid(), Qt::Key_Delete);
+    settle();
+    EXPECT_EQ(cell(1, QDate(2026, 6, 4)), QString());
+    EXPECT_EQ(planning().pressepapiers.cliplong(), 0);
+    station.host.expectQuestion(QStringLiteral("invalider : Suppr. horaires : ANNE le 04/06/2026"), true);
+    QTest::keyClick(grid(), Qt::Key_Z, Qt::ControlModifier);
+    settle();
+    EXPECT_EQ(cell(1, QDate(2026, 6, 4)), cell(1, june3));
+    EXPECT_TRUE(planning().commandes.refaire);
+    station.host.expectQuestion(QStringLiteral("revalider Suppr. horaires : ANNE le 04/06/2026"), true);
+    QTest::keyClick(grid(), Qt::Key_Y, Qt::ControlModifier);
+    settle();
+    EXPECT_EQ(cell(1, QDate(2026, 6, 4)), QString());
+    QTest::keyClick(grid(), Qt::Key_Delete, Qt::ShiftModifier); // asks nothing
+    EXPECT_EQ(session.base.sitper.recordCount(), 2);
 }
 
 TEST_F(FplanTest, TheStarOpensTheEntryAndEscapeWritesNothing)
