@@ -28,6 +28,10 @@ TEST(CommandLine, RefusesWrongUsageWithStatus2AndMakesNothing)
         {"saisie", "1", "01/06/2026"},
         {"saisie", "1", "01/06/2026", "8h-9h", "9h-10h", "10h-11h", "11h-12h"},
         {"init", "--aujourdhui", "31/02/2026"},
+        {"copier", "1", "01/06/2026", "02/06/2026"},
+        {"copier", "1", "01/06/2026", "02/06/2026", "--vers", "2"},
+        {"couper", "1", "01/06/2026", "--vers", "2", "10/06/2026"},
+        {"supprimer", "1", "01/06/2026", "--vers", "2", "10/06/2026"},
     };
     const QByteArray before = program.fingerprint();
     for (const QStringList &words : lines) {
@@ -57,7 +61,8 @@ TEST(CommandLine, TellsEveryCommandInTheHelp)
     const Program program;
     const Outcome run = program.run({"--aide"}, {});
     EXPECT_EQ(run.status, 0);
-    for (const char *command : {"init", "demo", "mois", "statut", "saisie", "annuler", "refaire", "journal"})
+    for (const char *command : {"init", "demo", "mois", "statut", "saisie", "copier", "couper", "supprimer",
+                                "annuler", "refaire", "journal"})
         EXPECT_TRUE(run.out.contains(QStringLiteral("velmora ") + QLatin1String(command))) << command;
 }
 

@@ -1,0 +1,184 @@
+#include "cli/program.h"
+
+#include "support/raw_sqlite.h"
+
+#include <QElapsedTimer>
+
+#include <csignal>
+#include <map>
+#include <optional>
+#include <random>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace velmora::test;
+
+namespace
+{
+
+int setting(const char *name, int otherwise)
+{
+    return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : otherwise;
+}
+
+/// What a killed cut and paste of 31 days from line 1 to line 2 left: counts of rows and of the images of
+/// each operation, in their order.
+struct Left {
+    int source = 0;
+    int target = 0;
+    QStringList images;
+
+    [[nodiscard]] QString text() const
+    {
+        return QStringLiteral("rows %1+%2, images %3").arg(source).arg(target).arg(images.join(u'+'));
+    }
+};
+
+/// A cut and a paste are each there whole or not at all, and no row has changed without its images. The
+/// journal is committed first: an operation may be recorded whose rows have not changed, and undoing it is
+/// harmless.
+const QStringList wholeStates{
+    QStringLiteral("rows 31+0, images "),      QStringLiteral("rows 31+0, images 31"),
+    QStringLiteral("rows 0+0, images 31"),     QStringLiteral("rows 0+0, images 31+31"),
+    QStringLiteral("rows 0+31, images 31+31"),
+};
+
+class KillTest : public testing::Test
+{
+protected:
+    Program program;
+    QByteArray base;
+    QByteArray journal;
+    QString hours; ///< of the 31 days, as stored
+
+    void SetUp() override
+    {
+        program.demo();
+        {
+            RawSqlite file(program.base());
+            ASSERT_TRUE(file.run("DELETE FROM sitper"));
+            ASSERT_TRUE(file.run("DELETE FROM absences"));
+        }
+        ASSERT_EQ(program({"saisie", "1", "01/06/2026", "01/07/2026", "8h-12h", "14h-18h"}).status, 0);
+        RawSqlite log(program.journal());
+        ASSERT_TRUE(log.run("UPDATE logop SET valop = 0; DELETE FROM sitlog"));
+        hours = hoursIn(program.base(), "sitper WHERE nump = 1");
+        base = content(program.base());
+        journal = content(program.journal());
+    }
+
+    static QByteArray content(const QString &path)
+    {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+    static QString hoursIn(const QString &file, const QString &from)
+    {
+        return RawSqlite(file)
+            .rows("SELECT heurdeb, heurfin, hideb, hifin, heurtrav, hdeb1, hfin1, hdeb2, hfin2 FROM " + from)
+            .join(u';');
+    }
+    void restore()
+    {
+        for (const QString &path : {program.base(), program.journal()})
+            QFile::remove(path + QStringLiteral("-journal"));
+        writeFile(program.base(), base);
+        writeFile(program.journal(), journal);
+    }
+    /// From where the moment of the kill counts: the program's start, or its first write to the planning.
+    enum class From { Start, FirstWrite };
+
+    /// Runs the cut and paste and kills it so many microseconds after the start or the first write; nothing
+    /// lets it end by itself. Returns the microseconds from there to its end.
+    int runKilled(From from, std::optional<int> microseconds)
+    {
+        QProcess process;
+        QElapsedTimer length;
+        length.start();
+        process.start(QStringLiteral(VELMORA_PROGRAM),
+                      QStringList{"couper", "1", "01/06/2026", "01/07/2026", "--vers", "2", "01/06/2026"} +
+                          program.options());
+        EXPECT_TRUE(process.waitForStarted());
+        const auto pid = static_cast<pid_t>(process.processId());
+        if (from == From::FirstWrite) {
+            awaitWrite(pid);
+            length.start();
+        }
+        if (microseconds) {
+            usleep(static_cast<useconds_t>(*microseconds));
+            ::kill(pid, SIGKILL);
+        }
+        EXPECT_TRUE(process.waitForFinished());
+        return static_cast<int>(length.nsecsElapsed() / 1000);
+    }
+    /// Returns as soon as the planning has an unfinished transaction, or the program has ended without one.
+    void awaitWrite(pid_t pid) const
+    {
+        const QByteArray rollback = QFile::encodeName(program.base() + QStringLiteral("-journal"));
+        siginfo_t ended{};
+        while (access(rollback.constData(), F_OK) != 0 && ended.si_pid != pid)
+            waitid(P_PID, static_cast<id_t>(pid), &ended, WEXITED | WNOHANG | WNOWAIT);
+    }
+    /// Both files open again by the program and are sound.
+    void expectSound()
+    {
+        const Outcome ring = program({"journal"});
+        EXPECT_EQ(ring.status, 0) << ring.err.toStdString();
+        EXPECT_TRUE(ring.err.isEmpty()) << ring.err.toStdString();
+        for (const QString &file : {program.base(), program.journal()})
+            EXPECT_EQ(RawSqlite(file).value("PRAGMA integrity_check"), QStringLiteral("ok"));
+    }
+    Left left()
+    {
+        RawSqlite rows(program.base());
+        RawSqlite log(program.journal());
+        return {rows.value("SELECT count(*) FROM sitper WHERE nump = 1").toInt(),
+                rows.value("SELECT count(*) FROM sitper WHERE nump = 2").toInt(),
+                log.rows("SELECT (SELECT count(*) FROM sitlog WHERE sitlog.numop = logop.numop) FROM logop "
+                         "WHERE valop ORDER BY ordop DESC")};
+    }
+    /// The rows and the images hold the hours that were there before.
+    void expectSameHours(const Left &found)
+    {
+        if (found.source + found.target > 0) {
+            EXPECT_EQ(hoursIn(program.base(), "sitper"), hours);
+        }
+        for (qsizetype i = 0; i < found.images.size(); ++i) {
+            const QString one =
+                QStringLiteral("sitlog WHERE numop = (SELECT numop FROM logop WHERE valop AND "
+                               "ordop = %1) ORDER BY dat")
+                    .arg(found.images.size() - i);
+            EXPECT_EQ(hoursIn(program.journal(), one), hours);
+        }
+    }
+};
+
+} // namespace
+
+// VELMORA_KILLS sets how many times, VELMORA_SEED the moments.
+TEST_F(KillTest, LeavesEachOperationWholeOrNotThereAtAll)
+{
+    std::map<From, int> length;
+    for (const From from : {From::Start, From::FirstWrite}) {
+        restore();
+        length[from] = runKilled(from, {});
+        ASSERT_EQ(left().text(), wholeStates.last());
+    }
+    std::mt19937 random(static_cast<unsigned>(setting("VELMORA_SEED", 1)));
+    std::map<QString, int> seen;
+    const int kills = setting("VELMORA_KILLS", 30);
+    for (int i = 0; i < kills && !HasFailure(); ++i) {
+        restore();
+        const From from = i % 2 == 0 ? From::Start : From::FirstWrite;
+        runKilled(from, std::uniform_int_distribution<int>(0, length[from])(random));
+        expectSound();
+        const Left found = left();
+        EXPECT_TRUE(wholeStates.contains(found.text())) << found.text().toStdString();
+        expectSameHours(found);
+        ++seen[found.text()];
+    }
+    for (const auto &[state, times] : seen)
+        std::printf("%4d  %s\n", times, qPrintable(state));
+}
