@@ -6,6 +6,7 @@
 #include "cli/installation.h"
 #include "cli/journal_command.h"
 #include "cli/month_commands.h"
+#include "cli/undo_commands.h"
 #include "foncgen/foncgen.h"
 #include "session/velmoral.h"
 
@@ -192,6 +193,14 @@ const std::vector<Commande> &commandes()
          3,
          {},
          commandeSupprimer},
+        {"annuler", "", "annule la dernière opération, après une question", 0, 0, {}, commandeAnnuler},
+        {"refaire",
+         "",
+         "refait l'opération annulée en dernier, après une question",
+         0,
+         0,
+         {},
+         commandeRefaire},
         {"journal", "", "affiche les opérations enregistrées", 0, 0, {}, commandeJournal},
     };
     return toutes;

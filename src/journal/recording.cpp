@@ -1,5 +1,7 @@
 #include "journal/recording.h"
 
+#include "journal/images.h"
+#include "journal/ring.h"
 #include "session/batch.h"
 #include "session/guards.h"
 #include "session/opening.h"
@@ -15,27 +17,12 @@ using store::Status;
 namespace
 {
 
-const QString avant = QStringLiteral("A");
-const QString apres = QStringLiteral("P");
-const QString changee = QStringLiteral("E");
-const QString ajoutee = QStringLiteral("A");
-const QString supprimee = QStringLiteral("D");
-
 /// Lets timers and other commands run: one of them may be what holds the table.
 void pauseEvenements()
 {
     constexpr int tours = 100;
     for (int i = 0; i < tours; ++i)
         QCoreApplication::processEvents();
-}
-
-/// Changes the current `logop` row as `change` says. Failures are passed over.
-template <class Change> void modifieOperation(Session &session, Change &&change)
-{
-    auto &logop = session.journal.logop;
-    if (!editgarde(session, logop).ok()) return;
-    change(logop.values());
-    if (!logop.update().ok()) logop.cancelUpdate();
 }
 
 void remplitCase(Session &session, const QString &ficop, const QString &libop)
@@ -46,7 +33,7 @@ void remplitCase(Session &session, const QString &ficop, const QString &libop)
         operation.ficop = ficop;
         operation.libop = libop;
         operation.ordop = 1;
-    });
+    }).ignore();
 }
 
 int remetAnneau(Session &session)
@@ -55,7 +42,7 @@ int remetAnneau(Session &session)
         modifieOperation(session, [&](Operation &tete) {
             tete.ordop = 0;
             tete.nivop = session.nblog;
-        });
+        }).ignore();
     }
     session.peutannul = false;
     session.peutrefaire = false;
@@ -70,7 +57,7 @@ void avanceTete(Session &session, int annulees)
     modifieOperation(session, [annulees](Operation &tete) {
         tete.nivop = annulees > 1 ? annulees - 1 : std::max(tete.nivop - 1, 0);
         tete.ordop = 0;
-    });
+    }).ignore();
 }
 
 /// Walks the slots in their order, ages those in force, renumbers the free ones and takes one. Returns the
@@ -92,9 +79,11 @@ int prendCase(Session &session, int annulees, const QString &ficop, const QStrin
             prise = operation.numop;
             remplitCase(session, ficop, libop);
         } else if (operation.valop) {
-            modifieOperation(session, [vieillit](Operation &suivie) { suivie.ordop += vieillit; });
+            modifieOperation(session, [vieillit](Operation &suivie) { suivie.ordop += vieillit; }).ignore();
         } else {
-            modifieOperation(session, [&](Operation &suivie) { suivie.ordop = session.nblog - libre + 1; });
+            modifieOperation(session, [&](Operation &suivie) {
+                suivie.ordop = session.nblog - libre + 1;
+            }).ignore();
             --libre;
         }
     }
@@ -165,22 +154,22 @@ void purgeop(Session &session, int numop)
 
 Status editsit(Session &session)
 {
-    imagesit(session, avant, changee);
-    session.foncsit = changee;
+    imagesit(session, imageAvant, ligneChangee);
+    session.foncsit = ligneChangee;
     attendlibre(session, session.base.sitper, questionDisque(), pauseEvenements);
     return session.base.sitper.edit();
 }
 
 Status ajoutsit(Session &session)
 {
-    session.foncsit = ajoutee;
+    session.foncsit = ligneAjoutee;
     attendlibre(session, session.base.sitper, questionDisque(), pauseEvenements);
     return session.base.sitper.addNew();
 }
 
 Status supprsit(Session &session)
 {
-    imagesit(session, avant, supprimee);
+    imagesit(session, imageAvant, ligneSupprimee);
     // This wait alone runs empty, without the events. Wanted.
     attendlibre(session, session.base.sitper, questionDisque(), pauseSeche);
     return session.base.sitper.erase();
@@ -191,28 +180,28 @@ Status majsit(Session &session)
     auto &sitper = session.base.sitper;
     const Status ecrit = sitper.update();
     if (!ecrit.ok()) return ecrit;
-    if (sitper.goTo(sitper.lastModified())) imagesit(session, apres, session.foncsit);
+    if (sitper.goTo(sitper.lastModified())) imagesit(session, imageApres, session.foncsit);
     return sitper.status();
 }
 
 Status editabs(Session &session)
 {
-    imageabs(session, avant, changee);
-    session.foncabs = changee;
+    imageabs(session, imageAvant, ligneChangee);
+    session.foncabs = ligneChangee;
     attendlibre(session, session.base.absences, questionDisque(), pauseEvenements);
     return session.base.absences.edit();
 }
 
 Status ajoutabs(Session &session)
 {
-    session.foncabs = ajoutee;
+    session.foncabs = ligneAjoutee;
     attendlibre(session, session.base.absences, questionDisque(), pauseEvenements);
     return session.base.absences.addNew();
 }
 
 Status supprabs(Session &session)
 {
-    imageabs(session, avant, supprimee);
+    imageabs(session, imageAvant, ligneSupprimee);
     attendlibre(session, session.base.absences, questionDisque(), pauseEvenements);
     return session.base.absences.erase();
 }
@@ -222,7 +211,7 @@ Status majabs(Session &session)
     auto &absences = session.base.absences;
     const Status ecrit = absences.update();
     if (!ecrit.ok()) return ecrit;
-    if (absences.goTo(absences.lastModified())) imageabs(session, apres, session.foncabs);
+    if (absences.goTo(absences.lastModified())) imageabs(session, imageApres, session.foncabs);
     return absences.status();
 }
 

@@ -17,7 +17,7 @@ constexpr int longueurCode = 2;
 } // namespace
 
 SaisieCode::SaisieCode(QWidget *grille, QWidget *cadre)
-    : QObject(cadre), m_text1(nomme(new QLineEdit(grille), "Text1")),
+    : QObject(cadre), m_grille(grille), m_text1(nomme(new QLineEdit(cadre), "Text1")),
       m_frame2(nomme(new QFrame(cadre), "Frame2")), m_labeli1(etiquette(m_frame2, "Labeli1", {})),
       m_labeli2(etiquette(m_frame2, "Labeli2",
                           QStringLiteral("Terminer votre saisie                 <ESC>=abandon")))
@@ -26,6 +26,7 @@ SaisieCode::SaisieCode(QWidget *grille, QWidget *cadre)
     rangee->addWidget(m_labeli1);
     rangee->addStretch();
     rangee->addWidget(m_labeli2);
+    rangee->setContentsMargins(4, 0, 4, 0);
     m_frame2->setFrameShape(QFrame::StyledPanel);
     m_frame2->hide();
     m_text1->setAlignment(Qt::AlignCenter);
@@ -41,7 +42,8 @@ SaisieCode::SaisieCode(QWidget *grille, QWidget *cadre)
 void SaisieCode::commence(const QRect &cellule, const QString &touche, const QString &titreSaisie)
 {
     m_labeli1->setText(titreSaisie);
-    m_text1->setGeometry(cellule);
+    m_text1->setGeometry({m_grille->mapTo(m_text1->parentWidget(), cellule.topLeft()), cellule.size()});
+    m_text1->raise();
     m_text1->setText(touche.toUpper());
     m_text1->show();
     m_frame2->show();

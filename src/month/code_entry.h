@@ -15,7 +15,8 @@ class SaisieCode : public QObject
     Q_OBJECT
 
 public:
-    /// `grille` is the viewport that the field is laid over; `cadre` holds the frame.
+    /// `grille` is the viewport that the field is laid over; `cadre` holds the field and the frame, since the
+    /// grid is disabled meanwhile.
     SaisieCode(QWidget *grille, QWidget *cadre);
 
     [[nodiscard]] QWidget *frame2() const { return m_frame2; }
@@ -36,6 +37,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    QWidget *m_grille;
     QLineEdit *m_text1;
     QFrame *m_frame2;
     QLabel *m_labeli1;

@@ -2,7 +2,9 @@
 
 #include "entry/partielm.h"
 #include "entry/storing.h"
+#include "month/clipboard.h"
 #include "month/cursor.h"
+#include "month/deletion.h"
 #include "month/loading.h"
 #include "month/refresh.h"
 #include "month/rows.h"
@@ -91,11 +93,11 @@ void Fplan::construit()
     auto *etat = new QHBoxLayout;
     etat->addWidget(m_date);
     etat->addWidget(m_statut, 1);
+    etat->addWidget(m_code->frame2(), 1);
     auto *colonne = new QVBoxLayout(this);
     colonne->setContentsMargins(6, 4, 6, 4);
     colonne->addLayout(titres);
     colonne->addWidget(m_mg, 1);
-    colonne->addWidget(m_code->frame2());
     colonne->addLayout(etat);
 }
 
@@ -150,6 +152,10 @@ void Fplan::relieGrille()
     connect(m_mg, &VueGrille::selectionFinie, this, &Fplan::celluleAtteinte);
     connect(m_mg, &VueGrille::doubleClic, this, &Fplan::saisitHeures);
     connect(m_mg, &VueGrille::touche, this, &Fplan::touchePressee);
+    connect(m_mg, &VueGrille::suppression, this, [this] {
+        positionneLigne();
+        if (jourDeLigne(m_planning)) supprime();
+    });
     connect(m_mg, &VueGrille::menuDemande, this, &Fplan::montreMenuGrille);
     connect(m_code, &SaisieCode::codeTape, this, &Fplan::verifieCode);
     connect(m_code, &SaisieCode::abandon, this, &Fplan::finitCode);
@@ -188,10 +194,16 @@ void Fplan::relieMenus()
 {
     m_menus.lie(QStringLiteral("mnuhm"), this, [this] { choisitTotaux(false); });
     m_menus.lie(QStringLiteral("mnucent"), this, [this] { choisitTotaux(true); });
+    for (const auto &nom : {QStringLiteral("mnucoupe"), QStringLiteral("maccoupe")})
+        m_menus.lie(nom, this, [this] { copie(true); });
+    for (const auto &nom : {QStringLiteral("mnucopier"), QStringLiteral("maccopier")})
+        m_menus.lie(nom, this, [this] { copie(false); });
+    for (const auto &nom : {QStringLiteral("mnucoller"), QStringLiteral("maccolle")})
+        m_menus.lie(nom, this, &Fplan::colle);
+    m_menus.lie(QStringLiteral("mnusup"), this, &Fplan::supprime);
     m_menus.lie(QStringLiteral("mnusais"), this, &Fplan::saisitHeures);
     m_menus.lie(QStringLiteral("mnuaid"), this,
                 [this] { ouvreaide(m_session, QStringLiteral("sommaire.htm")); });
-    m_menus.entree(QStringLiteral("mnuaid"))->setShortcut(QKeySequence::HelpContents);
     m_menus.lie(QStringLiteral("mnuferm"), this, [this] { close(); });
 }
 
@@ -277,6 +289,34 @@ void Fplan::saisitHeures()
     lanceCycle();
 }
 
+void Fplan::copie(bool coupe)
+{
+    m_timer2.stop();
+    positionneLigne();
+    m_planning.pressepapiers.clipcoupe = coupe;
+    clipcopie(m_planning);
+    emit tipChanged(QStringLiteral("Coller"), m_planning.pressepapiers.infobulle);
+    lanceCycle();
+}
+
+void Fplan::colle()
+{
+    m_timer2.stop();
+    positionneLigne();
+    clipcolle(m_planning);
+    celluleAtteinte();
+}
+
+void Fplan::supprime()
+{
+    m_timer2.stop();
+    positionneLigne();
+    m_mg->setCursor(Qt::WaitCursor);
+    supcell(m_planning);
+    m_mg->unsetCursor();
+    celluleAtteinte();
+}
+
 void Fplan::touchePressee(const QString &texte)
 {
     m_timer2.stop();
@@ -296,7 +336,8 @@ void Fplan::commenceCode(const QString &touche)
     m_planning.suivi = false;
     m_mg->setEnabled(false);
     m_menus.permetMenus(false);
-    m_maca->setEnabled(false);
+    m_date->hide();
+    m_statut->hide();
     emit commandsChanged(ToolbarState::onRefresh(m_planning.commandes).allOff());
     m_code->commence(m_mg->rectCurseur(), touche,
                      m_planning.grille.lit(place.ligne, Grille::colonneNom).texte +
@@ -318,7 +359,8 @@ void Fplan::finitCode()
     m_code->termine();
     m_mg->setEnabled(true);
     m_menus.permetMenus(true);
-    m_maca->setEnabled(true);
+    m_date->show();
+    m_statut->show();
     m_planning.suivi = true;
     lanceCycle();
 }

@@ -56,6 +56,9 @@ private:
     void refaitLigne(int ligne);
 
     void saisitHeures();
+    void copie(bool coupe);
+    void colle();
+    void supprime();
     void commenceCode(const QString &touche);
     void verifieCode(const QString &code);
     void finitCode();

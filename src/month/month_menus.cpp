@@ -1,7 +1,9 @@
 #include "month/month_menus.h"
 
 #include <QAction>
+#include <QKeySequence>
 #include <QMenu>
+#include <QWidget>
 
 namespace velmora
 {
@@ -96,6 +98,23 @@ MenusMois::MenusMois(QWidget *parent) : QObject(parent), m_parent(parent), m_mac
         ajouteEntree(nullptr, entree);
         m_barre << this->entree(QLatin1String(entree.nom));
     }
+    poseRaccourcis();
+}
+
+/// The shortcuts are the form's own too: they work whatever holds its menus.
+void MenusMois::poseRaccourcis()
+{
+    const QHash<QString, QKeySequence> touches{
+        {QStringLiteral("mnucoupe"), QKeySequence::Cut},
+        {QStringLiteral("mnucopier"), QKeySequence::Copy},
+        {QStringLiteral("mnucoller"), QKeySequence::Paste},
+        {QStringLiteral("mnuundo"), QKeySequence::Undo},
+        {QStringLiteral("mnudo"), QKeySequence(QStringLiteral("Ctrl+Y"))},
+        {QStringLiteral("mnuaid"), QKeySequence::HelpContents}};
+    for (auto touche = touches.begin(); touche != touches.end(); ++touche) {
+        entree(touche.key())->setShortcut(touche.value());
+        m_parent->addAction(entree(touche.key()));
+    }
 }
 
 void MenusMois::ajouteMenu(const char *nom, const QString &titreMenu, const QList<EntreeMenu> &entrees)
@@ -132,8 +151,11 @@ void MenusMois::permet(const QString &nom, bool permise)
 
 void MenusMois::permetMenus(bool permis)
 {
-    for (QAction *entree : m_barre)
-        if (entree->menu()) entree->setEnabled(permis);
+    for (QAction *menu : m_barre)
+        if (menu->menu()) menu->setEnabled(permis);
+    m_maca->setEnabled(permis);
+    for (const QString &nom : m_liees)
+        if (!m_barre.contains(entree(nom))) entree(nom)->setEnabled(permis);
 }
 
 void MenusMois::montre(const EtatCommandes &etat)

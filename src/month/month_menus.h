@@ -49,6 +49,7 @@ public:
 private:
     void ajouteMenu(const char *nom, const QString &titreMenu, const QList<EntreeMenu> &entrees);
     void ajouteEntree(QMenu *menu, const EntreeMenu &entree);
+    void poseRaccourcis();
     void permet(const QString &nom, bool permise);
 
     QWidget *m_parent;

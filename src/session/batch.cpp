@@ -8,7 +8,23 @@ namespace velmora
 using store::Engine;
 using store::Status;
 
-Batch::Batch(Session &session) : m_session(session)
+namespace
+{
+
+Status commitOf(Engine &engine)
+{
+    return engine.inTransaction() ? engine.commit() : Status{};
+}
+
+Status commitBoth(Engine &first, Engine &second)
+{
+    const Status status = commitOf(first);
+    return status.ok() ? commitOf(second) : status;
+}
+
+} // namespace
+
+Batch::Batch(Session &session, Kind kind) : m_session(session), m_kind(kind)
 {
     m_session.batch = this;
 }
@@ -22,15 +38,19 @@ Batch::~Batch()
 Status Batch::begin()
 {
     const Status status = m_session.base.engine.begin(Engine::Transaction::Write);
-    if (status.ok()) m_session.journal.engine.begin(Engine::Transaction::Write).ignore();
-    return status;
+    if (!status.ok()) return status;
+    const Status journal = m_session.journal.engine.begin(Engine::Transaction::Write);
+    return m_kind == Kind::Recording ? status : journal;
 }
 
 Status Batch::commit()
 {
-    if (m_session.journal.engine.inTransaction() && !m_session.journal.engine.commit().ok())
-        m_session.journal.engine.rollback();
-    return m_session.base.engine.inTransaction() ? m_session.base.engine.commit() : Status{};
+    Engine &base = m_session.base.engine;
+    Engine &journal = m_session.journal.engine;
+    if (m_kind == Kind::Undo) return commitBoth(base, journal);
+    if (m_kind == Kind::Redo) return commitBoth(journal, base);
+    if (!commitOf(journal).ok()) journal.rollback();
+    return commitOf(base);
 }
 
 void Batch::rollback()
@@ -74,21 +94,22 @@ QString questionDisque()
 namespace
 {
 
-Status unLot(Session &session, const std::function<Status()> &work)
+Status unLot(Session &session, const std::function<Status()> &work, Batch::Kind kind)
 {
-    Batch batch(session);
+    Batch batch(session, kind);
     Status status = batch.begin();
     if (status.ok()) status = work();
+    if (!status.ok() && kind != Batch::Kind::Recording) return status;
     const Status committed = batch.commit();
     return status.ok() ? committed : status;
 }
 
 } // namespace
 
-void enLot(Session &session, const std::function<Status()> &work)
+void enLot(Session &session, const std::function<Status()> &work, Batch::Kind kind)
 {
     for (;;) {
-        const Status status = session.batch ? work() : unLot(session, work);
+        const Status status = session.batch ? work() : unLot(session, work, kind);
         if (status.ok()) return;
         session.base.cancelUpdates();
         const Batch::Pause released(session.batch);

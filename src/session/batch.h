@@ -7,13 +7,20 @@
 namespace velmora
 {
 
-/// The rows of one command, written in one transaction over both databases. The journal is committed first:
-/// if the machine stops between the two commits, undoing the recorded operation is harmless. A failure of
-/// the journal alone is passed over, and the planning still changes.
+/// The rows of one command, written in one transaction over both databases.
 class Batch
 {
 public:
-    explicit Batch(Session &session);
+    /// Two files can't be committed at once. What each kind commits first is such that, if the machine stops
+    /// between the two commits, the journal shows the operation in force, keeps its images, and undoing it
+    /// is harmless: images are written over whatever the rows hold.
+    enum class Kind {
+        Recording, ///< journal first; a failure of the journal alone is passed over and the planning changes
+        Undo,      ///< planning first; whole or not at all: else rows could stay that no undo reaches
+        Redo       ///< journal first; whole or not at all
+    };
+
+    explicit Batch(Session &session, Kind kind = Kind::Recording);
     ~Batch();
     Batch(const Batch &) = delete;
     Batch &operator=(const Batch &) = delete;
@@ -39,6 +46,7 @@ public:
 
 private:
     Session &m_session;
+    Kind m_kind;
 };
 
 /// A part of a batch that is kept or taken back whole: the rows of one date.
@@ -61,8 +69,10 @@ private:
 /// Runs the changes of one command as a batch. `work` stops at its first failure and says it. Then what
 /// stands is committed and the user is asked, in the words of the guards for a file that another workstation
 /// holds and of the disk for anything else: on Yes the whole command runs again, on No the process ends.
-/// A batch within a batch joins it: a wait that lets events run may start another command.
-void enLot(Session &session, const std::function<store::Status()> &work);
+/// An undo or a redo that fails is taken back whole before the question. A batch within a batch joins it: a
+/// wait that lets events run may start another command.
+void enLot(Session &session, const std::function<store::Status()> &work,
+           Batch::Kind kind = Batch::Kind::Recording);
 
 /// A read transaction around a pass, so that the pass sees one state of the file and locks it once. Within
 /// a transaction it does nothing.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foncgen/foncgen.h"
+#include "journal/touched_lines.h"
 #include "session/host.h"
 #include "store/databases.h"
 
@@ -65,6 +66,11 @@ struct Session {
 
     QString abscode; ///< code typed for an absence entry
 
+    // What the print and export dialogs are given; each command has its own roles for them.
+    QDate impdate;
+    QDate impdeb;
+    QDate impfin;
+
     // State of the journal's ring.
     int nblog = 30;
     bool peutannul = false;
@@ -74,6 +80,7 @@ struct Session {
     QString foncsit;      ///< row operation under way on `sitper`
     QString foncabs;      ///< row operation under way on `absences`
     bool collage = false; ///< a paste is running
+    LignesRejouees rejeu; ///< what the last undo or redo touched
 
     std::unique_ptr<Foncgen> foncgen;
     store::MainDatabase base;

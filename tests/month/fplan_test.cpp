@@ -170,6 +170,8 @@ TEST_F(FplanTest, ACodeTypedInACellIsCheckedAndEscapeWritesNothing)
     QTest::keyClicks(grid(), QStringLiteral("z"));
     ASSERT_TRUE(text->isVisible());
     EXPECT_EQ(text->text(), QStringLiteral("Z"));
+    EXPECT_TRUE(text->isEnabled());
+    EXPECT_TRUE(text->hasFocus());
     EXPECT_FALSE(grid()->isEnabled());
     EXPECT_EQ(form->findChild<QLabel *>(QStringLiteral("Labeli1"))->text(),
               QStringLiteral("ANNE  à dater 04/06/2026"));
@@ -209,6 +211,26 @@ TEST_F(FplanTest, OneEntryChangesCellWeekMonthColumnTotalsAndJournal)
     EXPECT_TRUE(planning().commandes.annuler);
     ASSERT_TRUE(session.journal.logop.seek(store::Cmp::Eq, {1}));
     EXPECT_EQ(session.journal.logop.row().libop, QStringLiteral("nouvel horaire: ANNE le 03/06/2026"));
+}
+
+TEST_F(FplanTest, CopyPasteAndDeleteByKeysChangeTheGridAndTheFiles)
+{
+    openMonth();
+    click(1, june3);
+    QTest::keyClick(grid(), Qt::Key_C, Qt::ControlModifier);
+    settle();
+    click(1, QDate(2026, 6, 4));
+    EXPECT_TRUE(planning().commandes.coller);
+    QTest::keyClick(grid(), Qt::Key_V, Qt::ControlModifier);
+    settle();
+    EXPECT_EQ(cell(1, QDate(2026, 6, 4)), cell(1, june3));
+    station.host.expectQuestion(QStringLiteral("Suppression horaire(s) ?"), true);
+    QTest::keyClick(grid(), Qt::Key_Delete);
+    settle();
+    EXPECT_EQ(cell(1, QDate(2026, 6, 4)), QString());
+    EXPECT_EQ(planning().pressepapiers.cliplong(), 0);
+    QTest::keyClick(grid(), Qt::Key_Delete, Qt::ShiftModifier); // asks nothing
+    EXPECT_EQ(session.base.sitper.recordCount(), 2);
 }
 
 TEST_F(FplanTest, TheStarOpensTheEntryAndEscapeWritesNothing)
