@@ -7,10 +7,8 @@
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
 
-#include <cstdio>
 #include <map>
 #include <optional>
-#include <string>
 
 // What the month costs: its opening beside the bare reading of the same rows, the refilling of a line, and
 // the refresh after a cursor move.
@@ -141,40 +139,5 @@ void BM_RefreshAfterMove(benchmark::State &state)
 }
 BENCHMARK(BM_RefreshAfterMove)->Arg(996)->Unit(benchmark::kMillisecond);
 
-/// Prints each measure and keeps its processor time, which other work on the machine leaves alone, for the
-/// ratios.
-class KeepingReporter : public benchmark::ConsoleReporter
-{
-public:
-    void ReportRuns(const std::vector<Run> &runs) override
-    {
-        for (const Run &run : runs)
-            if (run.run_type == Run::RT_Iteration) m_times[run.benchmark_name()] = run.GetAdjustedCPUTime();
-        ConsoleReporter::ReportRuns(runs);
-    }
-
-    void printRatio(const char *what, const std::string &measured, const std::string &reference,
-                    double inverse)
-    {
-        if (!m_times.contains(measured) || !m_times.contains(reference)) return;
-        const double ratio = m_times[measured] / m_times[reference];
-        std::printf("%s: %.2f\n", what, inverse > 0 ? inverse / ratio : ratio);
-    }
-
-private:
-    std::map<std::string, double> m_times;
-};
-
 } // namespace
 } // namespace velmora::bench
-
-int main(int argc, char **argv)
-{
-    benchmark::Initialize(&argc, argv);
-    velmora::bench::KeepingReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    reporter.printRatio("opening 60 lines over bare reading", "BM_OpenMonth/60", "BM_BareReading/60", 0);
-    reporter.printRatio("opening 996 lines over bare reading", "BM_OpenMonth/996", "BM_BareReading/996", 0);
-    reporter.printRatio("refills that one opening is worth", "BM_RefillLine/996", "BM_OpenMonth/996", 1);
-    return 0;
-}

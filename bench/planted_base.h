@@ -7,16 +7,18 @@
 namespace velmora::bench
 {
 
-/// A host with a fixed clock. Nobody is asked anything while a measure runs.
+/// A host with a fixed clock and the same answer to every question.
 class MeasureHost : public Host
 {
 public:
     void message(const QString &, const QString &) override {}
-    bool question(const QString &, const QString &) override { return false; }
+    bool question(const QString &, const QString &) override { return answer; }
     QDate today() const override { return {2026, 6, 15}; }
     QDateTime now() const override { return {today(), QTime(8, 0)}; }
     void open(const QString &) override {}
     [[noreturn]] void endProcess() override { std::abort(); }
+
+    bool answer = false; ///< to every question
 };
 
 /// A main database in a temporary folder, opened by a session: each line has a row on every day of the 15

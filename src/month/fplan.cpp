@@ -2,6 +2,7 @@
 
 #include "entry/partielm.h"
 #include "entry/storing.h"
+#include "journal/replay.h"
 #include "month/clipboard.h"
 #include "month/cursor.h"
 #include "month/deletion.h"
@@ -200,6 +201,8 @@ void Fplan::relieMenus()
         m_menus.lie(nom, this, [this] { copie(false); });
     for (const auto &nom : {QStringLiteral("mnucoller"), QStringLiteral("maccolle")})
         m_menus.lie(nom, this, &Fplan::colle);
+    m_menus.lie(QStringLiteral("mnuundo"), this, [this] { rejoue(annulop); });
+    m_menus.lie(QStringLiteral("mnudo"), this, [this] { rejoue(refaitop); });
     m_menus.lie(QStringLiteral("mnusup"), this, &Fplan::supprime);
     m_menus.lie(QStringLiteral("mnusais"), this, &Fplan::saisitHeures);
     m_menus.lie(QStringLiteral("mnuaid"), this,
@@ -314,6 +317,14 @@ void Fplan::supprime()
     m_mg->setCursor(Qt::WaitCursor);
     supcell(m_planning);
     m_mg->unsetCursor();
+    celluleAtteinte();
+}
+
+void Fplan::rejoue(void (*replay)(Session &))
+{
+    m_timer2.stop();
+    replay(m_session);
+    refaitLignesRejouees(m_planning);
     celluleAtteinte();
 }
 

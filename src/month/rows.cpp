@@ -224,6 +224,17 @@ void majligne(Planning &planning, int nump, int rangee)
     refait(planning, nump, nullptr, rangee);
 }
 
+void refaitLignesRejouees(Planning &planning)
+{
+    const LignesRejouees &rejeu = planning.session.rejeu;
+    for (int entree = 0; entree < rejeu.nbligrej; ++entree) {
+        const auto rang = static_cast<std::size_t>(entree);
+        if (rejeu.debrej[rang] > rejeu.finrej[rang]) continue;
+        const int rangee = planning.grille.ligneDe(rejeu.ligrej[rang]);
+        if (rangee >= 0) majligne(planning, rejeu.ligrej[rang], rangee);
+    }
+}
+
 void majlignecomplet(Planning &planning, const Ligne &ligne, int rangee)
 {
     refait(planning, ligne.nump, &ligne, rangee);

@@ -32,6 +32,9 @@ void majlignecomplet(Planning &planning, const Ligne &ligne, int rangee);
 /// cursor is left to the caller.
 void retireRangee(Planning &planning, int rangee);
 
+/// Reloads the rows of the lines that the last undo or redo touched, two at the most.
+void refaitLignesRejouees(Planning &planning);
+
 /// Shows the totals in hundredths of an hour (`mnucent`) or in hours and minutes (`mnuhm`). Only the texts
 /// change; the tables aren't read.
 void choisitCentiemes(Planning &planning, bool centiemes);

@@ -9,6 +9,7 @@ namespace
 {
 
 constexpr std::size_t isoDateLength = 10;
+constexpr std::size_t isoMomentLength = 19;
 
 /// The digits of `text` from `first` on as a number, or -1.
 int digits(std::string_view text, std::size_t first, std::size_t count)
@@ -27,21 +28,33 @@ void putDigits(char *target, int value, int count)
         target[i] = static_cast<char>('0' + value % 10);
 }
 
+void putDate(char *target, const QDate &value)
+{
+    int year = 0;
+    int month = 0;
+    int day = 0;
+    value.getDate(&year, &month, &day);
+    putDigits(target, year, 4);
+    target[4] = '-';
+    putDigits(target + 5, month, 2);
+    target[7] = '-';
+    putDigits(target + 8, day, 2);
+}
+
+/// "08:15:00" within `text`, from `first` on; an invalid time for anything else.
+QTime readTime(std::string_view text, std::size_t first)
+{
+    if (text[first + 2] != ':' || text[first + 5] != ':') return {};
+    return {digits(text, first, 2), digits(text, first + 3, 2), digits(text, first + 6, 2)};
+}
+
 } // namespace
 
 void ColumnType<QDate>::bind(Statement &statement, int position, const QDate &value)
 {
     if (!value.isValid() || value.year() < 0 || value.year() > 9999) return statement.bindNull(position);
-    int year = 0;
-    int month = 0;
-    int day = 0;
-    value.getDate(&year, &month, &day);
     std::array<char, isoDateLength> text{};
-    putDigits(text.data(), year, 4);
-    text[4] = '-';
-    putDigits(text.data() + 5, month, 2);
-    text[7] = '-';
-    putDigits(text.data() + 8, day, 2);
+    putDate(text.data(), value);
     statement.bindText(position, {text.data(), text.size()});
 }
 
@@ -55,17 +68,32 @@ QDate ColumnType<QDate>::read(const Statement &statement, int column)
     return {year, digits(text, 5, 2), digits(text, 8, 2)};
 }
 
+// Moments are taken apart by hand: Qt's text forms ask the machine for its time zone at each of them.
 void ColumnType<QDateTime>::bind(Statement &statement, int position, const QDateTime &value)
 {
-    if (!value.isValid()) return statement.bindNull(position);
-    const QByteArray text = value.toString(Qt::ISODate).toLatin1();
-    statement.bindText(position, {text.constData(), static_cast<std::size_t>(text.size())});
+    const QDate date = value.date();
+    const QTime time = value.time();
+    if (!value.isValid() || date.year() < 0 || date.year() > 9999) return statement.bindNull(position);
+    std::array<char, isoMomentLength> text{};
+    putDate(text.data(), date);
+    text[10] = 'T';
+    putDigits(text.data() + 11, time.hour(), 2);
+    text[13] = ':';
+    putDigits(text.data() + 14, time.minute(), 2);
+    text[16] = ':';
+    putDigits(text.data() + 17, time.second(), 2);
+    statement.bindText(position, {text.data(), text.size()});
 }
 
 QDateTime ColumnType<QDateTime>::read(const Statement &statement, int column)
 {
     const auto text = statement.columnText(column);
     if (text.empty()) return {};
+    if (text.size() == isoMomentLength && text[10] == 'T') {
+        const QDate date = ColumnType<QDate>::read(statement, column);
+        const QTime time = readTime(text, 11);
+        return date.isValid() && time.isValid() ? QDateTime(date, time) : QDateTime();
+    }
     return QDateTime::fromString(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())),
                                  Qt::ISODate);
 }

@@ -2,6 +2,7 @@
 
 #include "journal/recording.h"
 #include "session/batch.h"
+#include "session/guards.h"
 
 #include "support/data_folder.h"
 #include "support/faulty_engine.h"
@@ -364,9 +365,11 @@ protected:
         addAbsence(session, 1, third, third);
     }
 
-    void replay(bool undo)
+    /// `retry` is the answer to the disk's question, if it is to be asked.
+    void replay(bool undo, std::optional<bool> retry = {})
     {
         host.expectQuestion(undo ? QStringLiteral("invalider : op") : QStringLiteral("revalider op"), true);
+        if (retry) host.expectQuestion(questionDisque(), *retry);
         undo ? annulop(session) : refaitop(session);
     }
     [[nodiscard]] bool inForce()
@@ -385,27 +388,21 @@ protected:
 
 TEST_F(ReplayFaults, EachFailedWriteIsAskedAboutWithAllTakenBackAndTheRetryCompletesIt)
 {
-    for (Faults *faults : {&baseFaults, &journalFaults}) {
-        int struck = 0;
-        bool undo = true;
-        for (int write = 0; write < 2 * 10; ++write, undo = !undo) {
-            SCOPED_TRACE(testing::Message() << "write " << write / 2 << (undo ? " of undo" : " of redo"));
-            faults->writesBefore = write / 2;
-            host.whenAsked = [&] {
-                if (faults->writesBefore != -1 || session.journal.engine.inTransaction()) return;
-                ++struck;
-                expectState(!undo);
+    constexpr int tries = 10;
+    const std::pair<Faults *, int> files[]{{&baseFaults, 4}, {&journalFaults, 2}};
+    for (const auto &[faults, writes] : files) {
+        for (int i = 0; i < tries; ++i) {
+            const bool undo = i % 2 == 0;
+            SCOPED_TRACE(testing::Message() << "write " << i / 2 << (undo ? " of undo" : " of redo"));
+            faults->writesBefore = i / 2;
+            host.whenAsked = [&, file = faults] {
+                if (file->writesBefore < 0) expectState(!undo);
             };
-            host.expectQuestion(undo ? QStringLiteral("invalider : op") : QStringLiteral("revalider op"),
-                                true);
-            const int writes = faults == &baseFaults ? (undo ? 5 : 4) : 2;
-            if (write / 2 < writes) host.expectQuestion(questionDisque(), true);
-            undo ? annulop(session) : refaitop(session);
+            replay(undo, i / 2 < writes ? std::optional(true) : std::nullopt);
             host.whenAsked = {};
+            faults->writesBefore = -1;
             expectState(undo);
         }
-        faults->writesBefore = -1;
-        EXPECT_GT(struck, 0);
     }
 }
 
@@ -430,9 +427,7 @@ TEST_F(ReplayFaults, StopBetweenTheTwoCommitsLeavesAnOperationThatUndoAndRedoSti
 TEST_F(ReplayFaults, RefusalToRetryEndsTheProcessWithAllAsItWas)
 {
     baseFaults.writesBefore = 2;
-    host.expectQuestion(QStringLiteral("invalider : op"), true);
-    host.expectQuestion(questionDisque(), false);
-    EXPECT_THROW(annulop(session), ProcessEnded);
+    EXPECT_THROW(replay(true, false), ProcessEnded);
     leave();
     expectState(false);
 }

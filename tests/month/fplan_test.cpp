@@ -213,7 +213,7 @@ TEST_F(FplanTest, OneEntryChangesCellWeekMonthColumnTotalsAndJournal)
     EXPECT_EQ(session.journal.logop.row().libop, QStringLiteral("nouvel horaire: ANNE le 03/06/2026"));
 }
 
-TEST_F(FplanTest, CopyPasteAndDeleteByKeysChangeTheGridAndTheFiles)
+TEST_F(FplanTest, CopyPasteDeleteUndoAndRedoByKeysChangeGridAndFiles)
 {
     openMonth();
     click(1, june3);
@@ -229,6 +229,15 @@ TEST_F(FplanTest, CopyPasteAndDeleteByKeysChangeTheGridAndTheFiles)
     settle();
     EXPECT_EQ(cell(1, QDate(2026, 6, 4)), QString());
     EXPECT_EQ(planning().pressepapiers.cliplong(), 0);
+    station.host.expectQuestion(QStringLiteral("invalider : Suppr. horaires : ANNE le 04/06/2026"), true);
+    QTest::keyClick(grid(), Qt::Key_Z, Qt::ControlModifier);
+    settle();
+    EXPECT_EQ(cell(1, QDate(2026, 6, 4)), cell(1, june3));
+    EXPECT_TRUE(planning().commandes.refaire);
+    station.host.expectQuestion(QStringLiteral("revalider Suppr. horaires : ANNE le 04/06/2026"), true);
+    QTest::keyClick(grid(), Qt::Key_Y, Qt::ControlModifier);
+    settle();
+    EXPECT_EQ(cell(1, QDate(2026, 6, 4)), QString());
     QTest::keyClick(grid(), Qt::Key_Delete, Qt::ShiftModifier); // asks nothing
     EXPECT_EQ(session.base.sitper.recordCount(), 2);
 }
