@@ -50,6 +50,7 @@ constexpr Ratio ratios[]{
     {"entry of 31 days over bare writing", "BM_Entry/real_time", "BM_BareWriting/real_time"},
     {"undo of it over bare writing", "BM_Undo/real_time", "BM_BareWriting/real_time"},
     {"redo of it over bare writing", "BM_Redo/real_time", "BM_BareWriting/real_time"},
+    {"paste of 31 days over bare writing", "BM_Paste/real_time", "BM_BareWriting/real_time"},
 };
 
 } // namespace

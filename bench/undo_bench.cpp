@@ -1,10 +1,7 @@
-#include "planted_base.h"
+#include "planted_station.h"
 
 #include "entry/storing.h"
 #include "journal/replay.h"
-#include "session/opening.h"
-
-#include <QFileInfo>
 
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
@@ -39,28 +36,15 @@ JourSit horaire(int run)
     return jour;
 }
 
-/// A workstation with one planted line, so that the entry replaces 31 rows.
-class Poste
+/// A workstation on which an entry replaces 31 rows.
+class PosteSaisi : public Poste
 {
 public:
-    Poste()
-    {
-        planted.host.answer = true;
-        const QString dossier = QFileInfo(planted.file()).path() + QLatin1Char('/');
-        session.cheminjournal = session.cheminbase = dossier;
-        const QString journal = dossier + store::fichierJournal;
-        if (!store::createDatabase(journal, store::FileKind::Journal).ok() || !ouvrejournal(session))
-            std::abort();
-    }
-
     void saisit()
     {
         ecrihor(session, {premier, premier.addDays(jours - 1), 1, QStringLiteral("Agent 001"), {}, {}},
                 horaire(++m_run));
     }
-
-    PlantedBase planted{1};
-    Session &session = planted.session;
 
 private:
     int m_run = 0;
@@ -139,7 +123,7 @@ BENCHMARK(BM_BareWriting)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void BM_Entry(benchmark::State &state)
 {
-    Poste poste;
+    PosteSaisi poste;
     for (auto _ : state)
         poste.saisit();
 }
@@ -147,7 +131,7 @@ BENCHMARK(BM_Entry)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void BM_Undo(benchmark::State &state)
 {
-    Poste poste;
+    PosteSaisi poste;
     poste.saisit();
     for (auto _ : state) {
         annulop(poste.session);
@@ -161,7 +145,7 @@ BENCHMARK(BM_Undo)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void BM_Redo(benchmark::State &state)
 {
-    Poste poste;
+    PosteSaisi poste;
     poste.saisit();
     annulop(poste.session);
     for (auto _ : state) {
