@@ -340,7 +340,9 @@ void Partielm::ok()
     m_timer2.stop();
     // Storing may let events run; nothing else is to be decided meanwhile.
     setEnabled(false);
-    m_ecrihor(m_journee, jourDeSaisie(m_saisie.textes(), m_saisie.total()));
+    const bool ecrit = m_ecrihor(m_journee, jourDeSaisie(m_saisie.textes(), m_saisie.total()));
+    setEnabled(true);
+    if (!ecrit) return;
     m_session.dlgvalide = true;
     accept();
 }

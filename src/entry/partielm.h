@@ -27,8 +27,9 @@ class Partielm : public QDialog
     Q_OBJECT
 
 public:
-    /// Writes the hours on each date of the entry.
-    using Ecrihor = std::function<void(const JourneeSaisie &, const JourSit &)>;
+    /// Writes the hours on each date of the entry. False when the entry was given up: the dialog then stays
+    /// open with what was typed.
+    using Ecrihor = std::function<bool(const JourneeSaisie &, const JourSit &)>;
 
     /// Opens on what the session was given for it; `dlgvalide` tells whether hours were stored.
     Partielm(Session &session, Ecrihor ecrihor, QWidget *parent = nullptr);

@@ -58,7 +58,7 @@ bool ecrihor(Session &session, const JourneeSaisie &journee, const JourSit &hora
         if (operation == 0 || session.opcour != operation) operation = ouvreOperation(session, journee);
         return ecritJours(session, journee, horaire);
     });
-    session.dlgvalide = true;
+    session.dlgvalide = ecrit;
     return ecrit;
 }
 

@@ -283,7 +283,9 @@ void Fplan::saisitHeures()
         m_planning.suivi = false;
         Partielm dialogue(
             m_session,
-            [this](const JourneeSaisie &journee, const JourSit &jour) { ecrihor(m_session, journee, jour); },
+            [this](const JourneeSaisie &journee, const JourSit &jour) {
+                return ecrihor(m_session, journee, jour);
+            },
             this);
         dialogue.exec();
         if (m_ferme) return;

@@ -43,8 +43,11 @@ protected:
 
     void ouvre()
     {
-        forme = std::make_unique<Partielm>(
-            poste.session, [this](const JourneeSaisie &, const JourSit &jour) { stockes.push_back(jour); });
+        forme = std::make_unique<Partielm>(poste.session, [this](const JourneeSaisie &, const JourSit &jour) {
+            if (abandonne) return false;
+            stockes.push_back(jour);
+            return true;
+        });
         forme->show();
         forme->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(forme.get()));
@@ -89,6 +92,7 @@ protected:
 
     test::Workstation poste;
     std::vector<JourSit> stockes;
+    bool abandonne = false; // the store gives the entry up
     std::unique_ptr<Partielm> forme;
 };
 
@@ -223,6 +227,21 @@ TEST_F(PartielmForm, AClickOnOkAfterAnHourOutOfRangeSaysSoAndStoresNothing)
     EXPECT_TRUE(stockes.empty());
     EXPECT_EQ(texte(4)->text(), "18h00");
     EXPECT_EQ(focus(), "Text4");
+    QTest::mouseClick(ok(), Qt::LeftButton);
+    EXPECT_EQ(stockes.size(), 1u);
+}
+
+TEST_F(PartielmForm, AnEntryThatTheStoreGivesUpStaysOpenWithItsHours)
+{
+    stocke({480, 720, 840, 1080});
+    ouvreEtCharge();
+    abandonne = true;
+    poste.session.dlgvalide = false;
+    QTest::mouseClick(ok(), Qt::LeftButton);
+    EXPECT_TRUE(forme->isVisible());
+    EXPECT_TRUE(forme->isEnabled());
+    EXPECT_FALSE(poste.session.dlgvalide);
+    abandonne = false;
     QTest::mouseClick(ok(), Qt::LeftButton);
     EXPECT_EQ(stockes.size(), 1u);
 }
