@@ -1,16 +1,12 @@
 #include "cli/commands.h"
 
-#include "cli/base_commands.h"
-#include "cli/days_commands.h"
-#include "cli/entry_command.h"
+#include "cli/families.h"
 #include "cli/installation.h"
-#include "cli/journal_command.h"
-#include "cli/month_commands.h"
-#include "cli/undo_commands.h"
 #include "foncgen/foncgen.h"
 #include "session/velmoral.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace velmora::cli
 {
@@ -48,12 +44,25 @@ std::vector<Option> toutesOptions()
     return toutes;
 }
 
-const Commande *cherche(const QString &nom)
+const Commande *nommee(const QString &nom)
 {
     const auto trouvee = std::find_if(commandes().begin(), commandes().end(), [&](const Commande &commande) {
         return nom == QLatin1String(commande.nom);
     });
     return trouvee == commandes().end() ? nullptr : &*trouvee;
+}
+
+/// A command has one or two words for its name; the longer one is meant where both are known.
+const Commande *cherche(const QStringList &mots)
+{
+    const Commande *longue = nommee(mots.mid(0, 2).join(QLatin1Char(' ')));
+    return longue ? longue : nommee(mots.first());
+}
+
+int motsDuNom(const Commande &commande)
+{
+    const std::string_view nom = commande.nom;
+    return 1 + static_cast<int>(std::count(nom.begin(), nom.end(), ' '));
 }
 
 bool contient(const std::vector<Option> &options, const QString &nom)
@@ -92,7 +101,7 @@ QString fauteCommande(const LigneCommande &ligne)
     const QStringList &mots = ligne.arguments.mots();
     if (mots.isEmpty()) return {};
     if (!ligne.commande) return QStringLiteral("commande inconnue : ") + mots.first();
-    const auto nombre = mots.size() - 1;
+    const auto nombre = mots.size() - motsDuNom(*ligne.commande);
     const auto &options = ligne.commande->options;
     const bool completes = std::all_of(options.begin(), options.end(), [&](const Option &option) {
         return !option.requise || ligne.arguments.a(option.nom);
@@ -136,73 +145,13 @@ Poste posteDe(const Arguments &arguments)
 
 const std::vector<Commande> &commandes()
 {
-    static const std::vector<Commande> toutes{
-        {"init",
-         "",
-         "crée les deux bases de données qui manquent",
-         0,
-         0,
-         {{"utilisateur", "PSEUDO:NOM", true}},
-         commandeInit},
-        {"demo",
-         "",
-         "crée des bases de données avec un planning d'exemple",
-         0,
-         0,
-         {{"lignes", "N"}, {"mois", "N"}, {"graine", "N"}},
-         commandeDemo},
-        {"mois",
-         "M/AAAA",
-         "affiche le planning d'un mois",
-         1,
-         1,
-         {{"dossier", "NOM"}, {"cellules", "0|1|2"}, {"centiemes"}, {"png", "FICHIER"}},
-         commandeMois},
-        {"statut",
-         "NUMP DATE",
-         "affiche l'état d'une journée",
-         2,
-         2,
-         {{"cellules", "0|1|2"}},
-         commandeStatut},
-        {"saisie",
-         "NUMP DEBUT [FIN] H-H [H-H [H-H]]",
-         "enregistre l'horaire d'une ligne",
-         3,
-         6,
-         {},
-         commandeSaisie},
-        {"copier",
-         "NUMP DEBUT FIN",
-         "copie les horaires d'une ligne à partir d'un autre jour",
-         3,
-         3,
-         {{"vers", "NUMP DATE", false, true, 2}},
-         commandeCopier},
-        {"couper",
-         "NUMP DEBUT FIN",
-         "déplace les horaires d'une ligne à partir d'un autre jour",
-         3,
-         3,
-         {{"vers", "NUMP DATE", false, true, 2}},
-         commandeCouper},
-        {"supprimer",
-         "NUMP DEBUT [FIN]",
-         "supprime l'absence du premier jour ou, sans absence, les horaires",
-         2,
-         3,
-         {},
-         commandeSupprimer},
-        {"annuler", "", "annule la dernière opération, après une question", 0, 0, {}, commandeAnnuler},
-        {"refaire",
-         "",
-         "refait l'opération annulée en dernier, après une question",
-         0,
-         0,
-         {},
-         commandeRefaire},
-        {"journal", "", "affiche les opérations enregistrées", 0, 0, {}, commandeJournal},
-    };
+    static const std::vector<Commande> toutes = [] {
+        std::vector<Commande> reunies;
+        for (const auto famille : {commandesBase, commandesMois})
+            for (const Commande &commande : famille())
+                reunies.push_back(commande);
+        return reunies;
+    }();
     return toutes;
 }
 
@@ -230,7 +179,7 @@ LigneCommande analyse(const QStringList &ligne)
 {
     LigneCommande analysee{Arguments(ligne, toutesOptions()), nullptr, {}, {}};
     const Arguments &arguments = analysee.arguments;
-    if (!arguments.mots().isEmpty()) analysee.commande = cherche(arguments.mots().first());
+    if (!arguments.mots().isEmpty()) analysee.commande = cherche(arguments.mots());
     analysee.erreur = arguments.erreur();
     if (analysee.erreur.isEmpty()) analysee.erreur = fauteCommande(analysee);
     if (analysee.erreur.isEmpty()) analysee.erreur = fauteOptions(analysee);
@@ -244,7 +193,8 @@ int execute(const LigneCommande &ligne, const Peintre &peint)
     if (!ligne.erreur.isEmpty()) return mauvaisUsage(ligne.erreur);
     if (ligne.version()) return imprime(QStringLiteral("velmora " VELMORA_VERSION)), reussi;
     CliHost host(ligne.poste.aujourdhui, ligne.poste.reponse);
-    const Appel appel{ligne.arguments, ligne.arguments.mots().mid(1), ligne.poste, host, peint};
+    const Appel appel{ligne.arguments, ligne.arguments.mots().mid(motsDuNom(*ligne.commande)), ligne.poste,
+                      host, peint};
     const int statut = ligne.commande->execute(appel);
     return statut == reussi && host.refusee() ? refuse : statut;
 }

@@ -52,7 +52,8 @@ struct Commande {
     int (*execute)(const Appel &);
 };
 
-/// Every command, in the order of the help.
+/// Every command, in the order of the help. A name has one or two words, for example "ligne" or "ligne
+/// fermer".
 [[nodiscard]] const std::vector<Commande> &commandes();
 
 /// A command line that has been taken apart and checked against the table of commands.

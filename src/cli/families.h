@@ -1,0 +1,12 @@
+#pragma once
+
+#include "cli/commands.h"
+
+namespace velmora::cli
+{
+
+// The commands by family, each in the order of the help. A family stands beside its commands.
+std::vector<Commande> commandesBase();
+std::vector<Commande> commandesMois();
+
+} // namespace velmora::cli
