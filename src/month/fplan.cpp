@@ -238,12 +238,16 @@ void Fplan::charge()
 
 void Fplan::rafraichit()
 {
-    cycle(m_planning);
+    cycle(m_planning, [this] { montreCycle(); });
+    if (m_mg->isVisible() && m_mg->isEnabled()) m_mg->setFocus();
+}
+
+void Fplan::montreCycle()
+{
     m_date->setText(QStringLiteral("le : ") + Foncgen::dtoc(m_planning.dateStatut));
     m_statut->setText(m_planning.texteStatut);
     m_statut->setToolTip(m_planning.texteStatut.toHtmlEscaped());
     montreCommandes();
-    if (m_mg->isVisible() && m_mg->isEnabled()) m_mg->setFocus();
 }
 
 void Fplan::montreCommandes()

@@ -46,6 +46,7 @@ private:
     void charge();
     void ferme();
     void rafraichit();
+    void montreCycle();
     void montreCommandes();
     void execute();
 

@@ -84,13 +84,13 @@ void majcommandes(Planning &planning)
     planning.commandes.refaire = planning.session.peutrefaire;
 }
 
-void cycle(Planning &planning)
+void cycle(Planning &planning, const std::function<void()> &montre)
 {
     planning.suivi = true;
-    if (!planning.grille.estLigne(planning.curseur.ligne)) return;
-    const Ligne ligne = suitCurseur(planning);
-    // The grid draws again: the report stands over the row that it is about.
-    if (std::exchange(planning.rapportdemande, false)) montreRapport(planning, ligne);
+    const bool surLigne = planning.grille.estLigne(planning.curseur.ligne);
+    const Ligne ligne = surLigne ? suitCurseur(planning) : Ligne();
+    if (montre) montre();
+    if (surLigne && std::exchange(planning.rapportdemande, false)) montreRapport(planning, ligne);
 }
 
 } // namespace velmora

@@ -2,13 +2,17 @@
 
 #include <algorithm>
 
+#include <algorithm>
+
 namespace velmora
 {
 
 SuiteJours::SuiteJours(const QDate &premier, const QDate &dernier) : m_premier(premier), m_dernier(dernier)
 {
     const qint64 nombre = premier.isValid() && dernier.isValid() ? premier.daysTo(dernier) + 1 : 0;
+    constexpr qint64 annee = 366;
     m_places.assign(static_cast<std::size_t>(std::max<qint64>(nombre, 0)), -1);
+    m_jours.reserve(static_cast<std::size_t>(std::clamp<qint64>(nombre, 0, annee)));
 }
 
 void SuiteJours::ajoute(const JourSit &jour)

@@ -140,14 +140,14 @@ TEST_F(FplanTest, AClickOnANameOrItsMarkShowsTheReportOfALineWithControls)
     ASSERT_TRUE(ligmois.first());
     ASSERT_TRUE(ligmois.edit().ok());
     ligmois.values().bcontrolr = true;
-    ligmois.values().nrepd = 8;
+    ligmois.values().nrep = 16;
     ASSERT_TRUE(ligmois.update().ok());
     openMonth();
     QHeaderView *const names = grid()->verticalHeader();
     QString report = QStringLiteral("        ANNE\n");
     for (QDate monday = planning().periode.debgrille; monday <= planning().periode.fingrille.addDays(1);
          monday = monday.addDays(7))
-        report += QStringLiteral("\nDéfaut Repos contigus du %1 au %2\n")
+        report += QStringLiteral("\nDéfaut Repos Hebdo du %1 au %2\n")
                       .arg(Foncgen::dtoc(monday), Foncgen::dtoc(monday.addDays(14)));
     for (const int x : {5, names->width() - 3}) {
         station.host.expectMessage(report);
