@@ -46,7 +46,6 @@ private:
     void charge();
     void ferme();
     void rafraichit();
-    void montreCycle();
     void montreCommandes();
     void execute();
 

@@ -31,27 +31,28 @@ void commandesCellule(Planning &planning, const Ligne &ligne)
 {
     EtatCommandes &etat = planning.commandes;
     const QDate date = planning.date(planning.curseur.colonne);
-    etat.couper = etat.copier = etat.coller = etat.absence = true;
+    etat.couper = etat.copier = etat.coller = etat.absence = etat.supprimer = true;
     Session &session = planning.session;
     const int nump = planning.grille.numligne(planning.curseur.ligne);
     session.base.sitper.setIndex("sitper01");
     if (date < ligne.datedeb || date > ligne.datefin)
-        etat.couper = etat.copier = etat.coller = etat.absence = false;
+        etat.couper = etat.copier = etat.coller = etat.absence = etat.supprimer = false;
     else if (absjour(session, nump, date))
         etat.couper = etat.copier = etat.coller = false;
     else if (!session.base.sitper.seek(store::Cmp::Eq, {nump, date}))
         etat.couper = etat.copier = false;
-    if (planning.pressepapiers.cliplong() == 0) etat.coller = false;
+    if (!planning.pressepapiers.tient(session)) etat.coller = false;
 }
 
 /// The cycle but for the report. Returns the line that the row shows, or stands for when it is gone.
-Ligne suitCurseur(Planning &planning)
+Ligne suitCurseur(Planning &planning, const std::function<void()> &montreStatut)
 {
     const TravailGrille travail(planning);
     const Place place = planning.curseur;
     const int nump = planning.grille.numligne(place.ligne);
     planning.dateStatut = planning.date(place.colonne);
     planning.texteStatut = textestatut(planning.session, nump, planning.dateStatut);
+    if (montreStatut) montreStatut();
     Ligne ligne = ligneCourante(planning);
     planning.commandes.fermerLigne = ligneOuverte(ligne);
     planning.commandes.reouvrirLigne = !planning.commandes.fermerLigne;
@@ -84,13 +85,13 @@ void majcommandes(Planning &planning)
     planning.commandes.refaire = planning.session.peutrefaire;
 }
 
-void cycle(Planning &planning, const std::function<void()> &montre)
+void cycle(Planning &planning, const std::function<void()> &montreStatut)
 {
     planning.suivi = true;
-    const bool surLigne = planning.grille.estLigne(planning.curseur.ligne);
-    const Ligne ligne = surLigne ? suitCurseur(planning) : Ligne();
-    if (montre) montre();
-    if (surLigne && std::exchange(planning.rapportdemande, false)) montreRapport(planning, ligne);
+    if (!planning.grille.estLigne(planning.curseur.ligne)) return;
+    const Ligne ligne = suitCurseur(planning, montreStatut);
+    // The grid draws again: the report stands over the row that it is about.
+    if (std::exchange(planning.rapportdemande, false)) montreRapport(planning, ligne);
 }
 
 } // namespace velmora
