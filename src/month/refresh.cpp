@@ -41,6 +41,14 @@ void commandesCellule(Planning &planning, const Ligne &ligne)
     if (planning.pressepapiers.cliplong() == 0) etat.coller = false;
 }
 
+/// The last line shown has been closed before the grid's dates: there is nothing for the commands to act on.
+void sansLigne(Planning &planning)
+{
+    planning.commandes = {};
+    majcommandes(planning);
+    planning.texteStatut.clear();
+}
+
 } // namespace
 
 void ditErreurBase(const Planning &planning)
@@ -66,7 +74,7 @@ void cycle(Planning &planning)
     planning.suivi = true;
     const TravailGrille travail(planning);
     const Place place = planning.curseur;
-    if (!planning.grille.estLigne(place.ligne)) return;
+    if (!planning.grille.estLigne(place.ligne)) return sansLigne(planning);
     const int nump = planning.grille.numligne(place.ligne);
     planning.dateStatut = planning.date(place.colonne);
     planning.texteStatut = textestatut(planning.session, nump, planning.dateStatut);

@@ -4,6 +4,7 @@
 #include "month/cells.h"
 #include "month/highlight.h"
 #include "month/refresh.h"
+#include "month/selection.h"
 #include "session/batch.h"
 #include "session/values.h"
 
@@ -286,6 +287,7 @@ void majlignecomplet(Planning &planning, const Ligne &ligne, int rangee)
 void retireRangee(Planning &planning, int rangee)
 {
     const DessinSuspendu dessin(planning.grille);
+    selvide(planning);
     soustotal(planning, rangee);
     planning.grille.retireLigne(rangee);
     ecritTotaux(planning);
