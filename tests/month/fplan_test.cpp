@@ -1,6 +1,7 @@
 #include "month/fplan.h"
 
 #include "entry/partielm.h"
+#include "support/modal.h"
 #include "support/workstation.h"
 
 #include <QApplication>
@@ -300,6 +301,7 @@ TEST_F(FplanTest, AMonthWithoutLinesSaysSoAndCloses)
         QStringLiteral("vous devez ouvrir au moins une ligne de planning pour cette période !"));
     form = std::make_unique<Fplan>(session);
     QSignalSpy closed(form.get(), &MonthView::closed);
+    whenModal([](QWidget &newLine) { QTest::keyClick(&newLine, Qt::Key_Escape); });
     form->show();
     EXPECT_TRUE(closed.wait(2000));
 }
