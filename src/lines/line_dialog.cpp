@@ -18,10 +18,10 @@ namespace
 
 constexpr int longueurDate = 10;
 
-/// As wide as so many of the widest capitals.
-void elargit(QLineEdit *texte, int lettres)
+void fixeLargeur(QLineEdit *texte, const QString &plusLong)
 {
-    texte->setMinimumWidth(texte->fontMetrics().horizontalAdvance(QString(lettres, QLatin1Char('M'))));
+    constexpr int marge = 24;
+    texte->setFixedWidth(texte->fontMetrics().horizontalAdvance(plusLong) + marge);
 }
 
 } // namespace
@@ -65,8 +65,10 @@ QLineEdit *DialogueLigne::ajouteNom(const QString &caption)
 {
     m_text1 = nomme(new QLineEdit, "Text1");
     m_text1->setAccessibleName(caption);
-    elargit(m_text1, longueurNom + 2);
-    ajouteCadre(caption)->addWidget(m_text1);
+    fixeLargeur(m_text1, QString(longueurNom, QLatin1Char('M')));
+    QBoxLayout *const cadre = ajouteCadre(caption);
+    cadre->addWidget(m_text1);
+    cadre->addStretch();
     wireField(m_text1, nullptr, m_command1, FieldType::Capitals, longueurNom);
     return m_text1;
 }
@@ -75,7 +77,7 @@ QLineEdit *DialogueLigne::ajouteDate(const QString &caption)
 {
     m_text2 = nomme(new QLineEdit(Foncgen::dtoc(m_session.host.today())), "Text2");
     m_text2->setAccessibleName(caption);
-    elargit(m_text2, longueurDate);
+    fixeLargeur(m_text2, QString(longueurDate, QLatin1Char('0')));
     QBoxLayout *const cadre = ajouteCadre(caption);
     auto *const label = new QLabel(QStringLiteral("à dater du"));
     label->setBuddy(m_text2);
