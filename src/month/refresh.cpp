@@ -28,25 +28,27 @@ void commandesCellule(Planning &planning, const Ligne &ligne)
 {
     EtatCommandes &etat = planning.commandes;
     const QDate date = planning.date(planning.curseur.colonne);
-    etat.couper = etat.copier = etat.coller = etat.absence = true;
+    etat.couper = etat.copier = etat.coller = etat.absence = etat.supprimer = true;
     Session &session = planning.session;
     const int nump = planning.grille.numligne(planning.curseur.ligne);
     session.base.sitper.setIndex("sitper01");
     if (date < ligne.datedeb || date > ligne.datefin)
-        etat.couper = etat.copier = etat.coller = etat.absence = false;
+        etat.couper = etat.copier = etat.coller = etat.absence = etat.supprimer = false;
     else if (absjour(session, nump, date))
         etat.couper = etat.copier = etat.coller = false;
     else if (!session.base.sitper.seek(store::Cmp::Eq, {nump, date}))
         etat.couper = etat.copier = false;
-    if (planning.pressepapiers.cliplong() == 0) etat.coller = false;
+    if (!planning.pressepapiers.tient(session)) etat.coller = false;
 }
 
 /// The last line shown has been closed before the grid's dates: there is nothing for the commands to act on.
-void sansLigne(Planning &planning)
+void sansLigne(Planning &planning, const std::function<void()> &montreStatut)
 {
+    planning.texteStatut.clear();
+    if (montreStatut) montreStatut();
     planning.commandes = {};
     majcommandes(planning);
-    planning.texteStatut.clear();
+    planning.rapportdemande = false;
 }
 
 } // namespace
@@ -69,15 +71,16 @@ void majcommandes(Planning &planning)
     planning.commandes.refaire = planning.session.peutrefaire;
 }
 
-void cycle(Planning &planning)
+void cycle(Planning &planning, const std::function<void()> &montreStatut)
 {
     planning.suivi = true;
     const TravailGrille travail(planning);
     const Place place = planning.curseur;
-    if (!planning.grille.estLigne(place.ligne)) return sansLigne(planning);
+    if (!planning.grille.estLigne(place.ligne)) return sansLigne(planning, montreStatut);
     const int nump = planning.grille.numligne(place.ligne);
     planning.dateStatut = planning.date(place.colonne);
     planning.texteStatut = textestatut(planning.session, nump, planning.dateStatut);
+    if (montreStatut) montreStatut();
     const Ligne &ligne = ligneCourante(planning);
     planning.commandes.fermerLigne = ligneOuverte(ligne);
     planning.commandes.reouvrirLigne = !planning.commandes.fermerLigne;

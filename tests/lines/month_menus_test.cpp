@@ -1,12 +1,8 @@
-#include "month/fplan.h"
-
+#include "month/open_form.h"
 #include "support/modal.h"
-#include "support/workstation.h"
 
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSignalSpy>
-#include <QTest>
 
 namespace velmora::test
 {
@@ -14,32 +10,18 @@ namespace
 {
 
 /// An open month whose commands on lines are run from its menus.
-class LineMenusTest : public testing::Test
+class LineMenusTest : public FplanTest
 {
 protected:
-    Workstation station;
-    Session &session = station.session;
-    std::unique_ptr<Fplan> form;
+    void SetUp() override {} // each test has its own lines
 
-    void openMonth()
-    {
-        session.moisvue = 6;
-        session.anvue = 2026;
-        form = std::make_unique<Fplan>(session);
-        QSignalSpy ready(form.get(), &MonthView::ready);
-        form->resize(1366, 700);
-        form->show();
-        ASSERT_TRUE(ready.wait(5000));
-        settle();
-    }
     void openMonthOn(const char *first, const char *second)
     {
         station.addLine(1, QString::fromLatin1(first));
         station.addLine(2, QString::fromLatin1(second));
-        station.addDay(2, {2026, 6, 3}, 480, 960);
+        station.addDay(2, june3, 480, 960);
         openMonth();
     }
-    static void settle() { QTest::qWait(30); }
     QAction *entry(const char *name) { return form->findChild<QAction *>(QLatin1String(name)); }
     /// Runs a menu's command; `act` works on the dialog that it shows.
     void run(const char *name, const std::function<void(QWidget &)> &act = {})
@@ -49,15 +31,14 @@ protected:
         entry(name)->trigger();
         settle();
     }
-    Grille &grille() { return form->planning().grille; }
+    Grille &grille() { return planning().grille; }
     /// Names from top to bottom with the total of 3 June.
     std::string rows()
     {
         QStringList names;
         for (int row = Grille::lignesFixes; row < grille().lignes(); ++row)
             names << grille().lit(row, Grille::colonneNom).texte;
-        const int june3 = form->planning().colonnes.colonneDe({2026, 6, 3});
-        return (names.join(u',') + grille().lit(grille().derniereLigne(), june3).texte).toStdString();
+        return (names.join(u',') + grille().lit(grille().derniereLigne(), column(june3)).texte).toStdString();
     }
     static void confirm(QWidget &dialog) { QTest::keyClick(&dialog, Qt::Key_Return); }
     static std::function<void(QWidget &)> fills(const char *field, const char *text)
@@ -76,20 +57,20 @@ TEST_F(LineMenusTest, EachCommandShowsInTheGrid)
     run("mnunewl", fills("Text1", "ABEL"));
     EXPECT_EQ(rows(), "ANNE,BRUNO,ABEL,Total Heures 8h00") << "last until the next opening";
     EXPECT_EQ(session.saisdeb, "");
-    EXPECT_EQ(form->planning().commandes.ligneCourante, "ANNE") << "the cursor stays on its line";
+    EXPECT_EQ(planning().commandes.ligneCourante, "ANNE") << "the cursor stays on its line";
     run("mnurenlig", fills("Text1", "ZOE"));
     EXPECT_EQ(rows(), "ZOE,BRUNO,ABEL,Total Heures 8h00");
     EXPECT_EQ(entry("mnuimpi")->text(), "Planning de ZOE");
     run("mnufermlig", fills("Text2", "10/06/2026"));
-    EXPECT_TRUE(form->planning().commandes.reouvrirLigne);
+    EXPECT_TRUE(planning().commandes.reouvrirLigne);
     EXPECT_FALSE(entry("mnufermlig")->isEnabled());
-    const int june15 = form->planning().colonnes.colonneDe({2026, 6, 15});
+    const int june15 = column({2026, 6, 15});
     EXPECT_EQ(grille().lit(3, june15).texte, "////");
     station.host.expectQuestion(QStringLiteral("Réouvrir la ligne fermée au09/06/2026 ?"), true);
     run("mnureouv");
     EXPECT_EQ(grille().lit(3, june15).texte, "");
     EXPECT_TRUE(entry("mnufermlig")->isEnabled());
-    QTest::keyClick(form->findChild<QWidget *>(QStringLiteral("mg")), Qt::Key_Down);
+    QTest::keyClick(grid(), Qt::Key_Down);
     settle();
     station.host.expectQuestion(
         QStringLiteral("Des heures ont été saisies pour cette ligne !\n\nElles seront "
@@ -97,7 +78,7 @@ TEST_F(LineMenusTest, EachCommandShowsInTheGrid)
         true);
     run("mnusuplig", confirm);
     EXPECT_EQ(rows(), "ZOE,ABEL,Total Heures 0h00");
-    EXPECT_EQ(form->planning().commandes.ligneCourante, "ZOE");
+    EXPECT_EQ(planning().commandes.ligneCourante, "ZOE");
     run("mnucont", [](QWidget &dialog) {
         control<QAbstractButton>(dialog, "Check3").click();
         confirm(dialog);
@@ -118,7 +99,7 @@ TEST_F(LineMenusTest, ACancelledDialogLeavesTheGridAndTheMonthAtWork)
     const auto cancel = [](QWidget &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); };
     for (const char *name : {"mnunewl", "mnufermlig", "mnucont", "mnurenlig", "mnusuplig"}) {
         run(name, cancel);
-        EXPECT_TRUE(form->planning().suivi) << name;
+        EXPECT_TRUE(planning().suivi) << name;
         EXPECT_EQ(rows(), "ANNE,BRUNO,Total Heures 8h00") << name;
     }
 }
@@ -133,7 +114,7 @@ TEST_F(LineMenusTest, TheOnlyLineClosedAwayLeavesAnEmptyGridThatTakesANewLine)
     run("mnucont"); // there is no line for it
     run("mnunewl", fills("Text1", "BRUNO"));
     EXPECT_EQ(rows(), "BRUNO,Total Heures 0h00");
-    EXPECT_EQ(form->planning().commandes.ligneCourante, "BRUNO");
+    EXPECT_EQ(planning().commandes.ligneCourante, "BRUNO");
 }
 
 TEST_F(LineMenusTest, ALineDeletedElsewhereOpensNoDialogOnAnotherOne)
@@ -155,8 +136,8 @@ TEST_F(LineMenusTest, AMonthWithoutLinesOpensOnTheLineThatIsMadeForIt)
     whenModal(fills("Text1", "ANNE"));
     openMonth();
     EXPECT_EQ(rows(), "ANNE,Total Heures 0h00");
-    EXPECT_EQ(form->planning().date(form->planning().curseur.colonne), QDate(2026, 6, 15));
-    EXPECT_EQ(form->planning().commandes.ligneCourante, "ANNE");
+    EXPECT_EQ(planning().date(planning().curseur.colonne), QDate(2026, 6, 15));
+    EXPECT_EQ(planning().commandes.ligneCourante, "ANNE");
 }
 
 TEST_F(LineMenusTest, AMonthClosesWhenTheLineMadeForItIsOfAnotherPeriod)

@@ -12,12 +12,13 @@ namespace velmora::test
 namespace
 {
 
-/// A user who always tries again and reads nothing: a name that the other one has is passed over.
+/// A user who tries again for long and reads nothing: a name that the other one has is passed over.
 class PatientHost : public ScriptedHost
 {
 public:
     void message(const QString &, const QString &) override {}
     bool question(const QString &, const QString &) override { return true; }
+    bool retry(const QString &, const QString &, int attempt) override { return attempt < 20; }
 };
 
 /// Opens lines on a workstation: each round one under a name of its own and one under a name that the other
