@@ -9,5 +9,6 @@ namespace velmora::cli
 std::vector<Commande> commandesBase();
 std::vector<Commande> commandesMois();
 std::vector<Commande> commandesControle();
+std::vector<Commande> commandesLignes();
 
 } // namespace velmora::cli
