@@ -41,6 +41,7 @@ private:
     void construitEntete();
     void relie();
     void relieMenus();
+    void relieAbsences();
     void mesure();
 
     void charge();
@@ -62,6 +63,7 @@ private:
     void rejoue(void (*replay)(Session &));
     void commenceCode(const QString &touche);
     void verifieCode(const QString &code);
+    void saisitAbsence();
     void finitCode();
     void montreMenuGrille(const QPoint &point);
     void choisitTotaux(bool centiemes);
