@@ -3,7 +3,7 @@
 #include "journal/replay.h"
 #include "month/cells.h"
 #include "month/stored_days.h"
-#include "session/records.h"
+#include "session/values.h"
 
 namespace velmora::test
 {

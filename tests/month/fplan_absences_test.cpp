@@ -38,6 +38,8 @@ protected:
     QAction *entry(const char *name) { return form->findChild<QAction *>(QLatin1String(name)); }
     void backToTheGrid()
     {
+        form->activateWindow(); // as a window manager does when the dialog has gone
+        ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == form.get(); }));
         EXPECT_FALSE(code()->isVisible());
         EXPECT_FALSE(frame());
         EXPECT_TRUE(grid()->isEnabled());
