@@ -42,6 +42,7 @@ private:
     void relie();
     void relieMenus();
     void relieLignes();
+    void relieAbsences();
     void mesure();
 
     void charge();
@@ -63,6 +64,7 @@ private:
     void rejoue(void (*replay)(Session &));
     void commenceCode(const QString &touche);
     void verifieCode(const QString &code);
+    void saisitAbsence();
     void finitCode();
     void montreMenuGrille(const QPoint &point);
     void choisitTotaux(bool centiemes);

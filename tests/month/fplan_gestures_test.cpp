@@ -1,7 +1,8 @@
 #include "month/fplan.h"
 
-#include "month/open_form.h"
+#include "month/fplan_form.h"
 
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
 #include <QScrollBar>

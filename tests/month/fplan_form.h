@@ -1,11 +1,9 @@
 #pragma once
 
-#include "entry/partielm.h"
 #include "month/fplan.h"
 #include "support/workstation.h"
 
 #include <QApplication>
-#include <QHeaderView>
 #include <QLabel>
 #include <QSignalSpy>
 #include <QTest>
@@ -67,11 +65,24 @@ protected:
     }
     QString status() { return form->findChild<QLabel *>(QStringLiteral("statut"))->text(); }
 
-    /// Acts on the entry dialog that the next event opens.
-    void withDialog(const std::function<void(Partielm &)> &act)
+    /// Drags from a day of a line to a point of the row below: the row is forced back.
+    void drag(int nump, const QDate &from, const QDate &to)
+    {
+        const QPoint start = at(nump, from);
+        const QPoint end = at(nump, to) + QPoint(0, grid()->rowHeight(0));
+        QTest::mousePress(grid()->viewport(), Qt::LeftButton, {}, start);
+        QMouseEvent move(QEvent::MouseMove, end, grid()->viewport()->mapToGlobal(end), Qt::NoButton,
+                         Qt::LeftButton, {});
+        QApplication::sendEvent(grid()->viewport(), &move);
+        QTest::mouseRelease(grid()->viewport(), Qt::LeftButton, {}, end);
+        settle();
+    }
+
+    /// Acts on the dialog that the next event opens.
+    template <class Dialog> void withDialog(const std::function<void(Dialog &)> &act)
     {
         QTimer::singleShot(60, form.get(), [act] {
-            auto *dialog = qobject_cast<Partielm *>(QApplication::activeModalWidget());
+            auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
             ASSERT_NE(dialog, nullptr);
             QTest::qWait(20);
             act(*dialog);
