@@ -53,7 +53,7 @@ private:
     void relieGrille();
     void lanceCycle();
     void celluleAtteinte();
-    void positionneLigne();
+    bool positionneLigne();
     void refaitLigne(int ligne);
 
     void saisitHeures();
