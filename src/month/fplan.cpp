@@ -178,10 +178,12 @@ void Fplan::celluleAtteinte()
 }
 
 /// Puts `ligmois` on the line of the current cell: the refresh cycle may not have run since the last move.
-void Fplan::positionneLigne()
+/// False when the line is gone; `ligmois` then stays where it was.
+bool Fplan::positionneLigne()
 {
     m_session.base.ligmois.setIndex("ligmois01");
-    m_session.base.ligmois.seek(store::Cmp::Eq, {m_planning.grille.numligne(m_planning.curseur.ligne)});
+    return m_session.base.ligmois.seek(store::Cmp::Eq,
+                                       {m_planning.grille.numligne(m_planning.curseur.ligne)});
 }
 
 void Fplan::refaitLigne(int ligne)

@@ -54,7 +54,7 @@ private:
     void relieGrille();
     void lanceCycle();
     void celluleAtteinte();
-    void positionneLigne();
+    bool positionneLigne();
     void refaitLigne(int ligne);
 
     void saisitHeures();
