@@ -10,5 +10,7 @@ std::vector<Commande> commandesBase();
 std::vector<Commande> commandesMois();
 std::vector<Commande> commandesAbsences();
 std::vector<Commande> commandesCodes();
+std::vector<Commande> commandesControle();
+std::vector<Commande> commandesLignes();
 
 } // namespace velmora::cli

@@ -1,8 +1,8 @@
-#include "month/fplan_form.h"
+#include "month/fplan.h"
 
-#include "entry/partielm.h"
+#include "month/open_form.h"
+#include "support/modal.h"
 
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -63,19 +63,55 @@ TEST_F(FplanTest, AClickOnANameChangesTheLineAndKeepsTheColumn)
     EXPECT_EQ(planning().curseur.colonne, before);
 }
 
+TEST_F(FplanTest, AClickOnANameOrItsMarkShowsTheReportOfALineWithControls)
+{
+    auto &ligmois = session.base.ligmois;
+    ASSERT_TRUE(ligmois.first());
+    ASSERT_TRUE(ligmois.edit().ok());
+    ligmois.values().bcontrolr = true;
+    ligmois.values().nrep = 16;
+    ASSERT_TRUE(ligmois.update().ok());
+    openMonth();
+    QHeaderView *const names = grid()->verticalHeader();
+    QString report = QStringLiteral("        ANNE\n");
+    for (QDate monday = planning().periode.debgrille; monday <= planning().periode.fingrille.addDays(1);
+         monday = monday.addDays(7))
+        report += QStringLiteral("\nDéfaut Repos Hebdo du %1 au %2\n")
+                      .arg(Foncgen::dtoc(monday), Foncgen::dtoc(monday.addDays(14)));
+    for (const int x : {5, names->width() - 3}) {
+        station.host.expectMessage(report);
+        QTest::mouseClick(names->viewport(), Qt::LeftButton, {}, {x, grid()->rowViewportPosition(0) + 4});
+        settle();
+    }
+    QTest::mouseClick(names->viewport(), Qt::LeftButton, {}, {5, grid()->rowViewportPosition(1) + 4});
+    settle();
+    EXPECT_EQ(planning().curseur.ligne, 4);
+    EXPECT_EQ(planning().grille.lit(3, Grille::colonneEtat).texte, QStringLiteral("Pb"));
+}
+
 TEST_F(FplanTest, ADragSelectsDaysOfOneLineAndAMoveGivesTheirColoursBack)
 {
     openMonth();
-    drag(1, QDate(2026, 6, 4), QDate(2026, 6, 8)); // over the week's total
+    const auto drag = [this](const QDate &from, const QDate &to) {
+        const QPoint start = at(1, from);
+        const QPoint end = at(2, to); // a row below: the row is forced back
+        QTest::mousePress(grid()->viewport(), Qt::LeftButton, {}, start);
+        QMouseEvent move(QEvent::MouseMove, end, grid()->viewport()->mapToGlobal(end), Qt::NoButton,
+                         Qt::LeftButton, {});
+        QApplication::sendEvent(grid()->viewport(), &move);
+        QTest::mouseRelease(grid()->viewport(), Qt::LeftButton, {}, end);
+        settle();
+    };
+    drag(QDate(2026, 6, 4), QDate(2026, 6, 8)); // over the week's total
     EXPECT_TRUE(planning().selection.selact);
-    EXPECT_EQ(planning().selection.couleurs.size(), 5);
+    EXPECT_EQ(planning().selection.coulfond.size(), 5);
     EXPECT_EQ(planning().curseur, (Place{3, column(QDate(2026, 6, 4))}));
     QTest::keyClick(grid(), Qt::Key_Down);
     settle();
     EXPECT_FALSE(planning().selection.selact);
     for (int day = 4; day <= 8; ++day)
         EXPECT_NE(planning().grille.lit(3, column(QDate(2026, 6, day))).fond, palette::fondSelection) << day;
-    drag(1, QDate(2026, 6, 5), QDate(2026, 6, 3)); // to the left of the anchor
+    drag(QDate(2026, 6, 5), QDate(2026, 6, 3)); // to the left of the anchor
     EXPECT_FALSE(planning().selection.selact);
     EXPECT_TRUE(planning().suivi);
 }
@@ -107,7 +143,7 @@ TEST_F(FplanTest, OneEntryChangesCellWeekMonthColumnTotalsAndJournal)
 {
     openMonth();
     click(1, june3);
-    withDialog<Partielm>([](Partielm &dialog) {
+    withDialog([](Partielm &dialog) {
         QTest::qWait(330);
         type(dialog, "Text1", "09h00");
         type(dialog, "Text2", "12h00");
@@ -161,7 +197,7 @@ TEST_F(FplanTest, TheStarOpensTheEntryAndEscapeWritesNothing)
     openMonth();
     click(1, QDate(2026, 6, 4));
     bool opened = false;
-    withDialog<Partielm>([&opened](Partielm &dialog) {
+    withDialog([&opened](Partielm &dialog) {
         opened = true;
         QTest::keyClick(&dialog, Qt::Key_Escape);
     });
@@ -214,6 +250,7 @@ TEST_F(FplanTest, AMonthWithoutLinesSaysSoAndCloses)
         QStringLiteral("vous devez ouvrir au moins une ligne de planning pour cette période !"));
     form = std::make_unique<Fplan>(session);
     QSignalSpy closed(form.get(), &MonthView::closed);
+    whenModal([](QWidget &newLine) { QTest::keyClick(&newLine, Qt::Key_Escape); });
     form->show();
     EXPECT_TRUE(closed.wait(2000));
 }
