@@ -12,8 +12,6 @@ namespace velmora::cli
 namespace
 {
 
-constexpr int toutTexte = 1000; ///< more than a refused word needs
-
 QString refusDate(const QString &date)
 {
     return Foncgen::ctod(date).isValid() ? QString() : dateIllisible(date);
@@ -44,7 +42,8 @@ int absente(Session &session, const QStringList &mots)
 {
     const QString impossible = refusMots(session, mots);
     if (!impossible.isEmpty()) return refus(impossible);
-    if (!codeok(session, admissible(FieldType::Capitals, toutTexte, mots[3]))) return refuse;
+    const QString code = admissible(FieldType::Capitals, static_cast<int>(mots[3].size()), mots[3]);
+    if (!codeok(session, code)) return refuse;
     return place(session, mots);
 }
 

@@ -2,7 +2,7 @@
 
 #include "absences/codes.h"
 #include "cli/output.h"
-#include "cli/row_texts.h"
+#include "cli/row_text.h"
 #include "cli/start.h"
 #include "foncgen/gestext.h"
 #include "session/records.h"
@@ -14,12 +14,11 @@ namespace
 {
 
 constexpr qsizetype longueurCode = 2;
-constexpr int toutTexte = 1000; ///< more than a refused word needs
 
 /// A code as its field takes it.
 QString motCode(const QString &mot)
 {
-    return admissible(FieldType::Capitals, toutTexte, mot).trimmed();
+    return admissible(FieldType::Capitals, static_cast<int>(mot.size()), mot).trimmed();
 }
 
 QString codeInconnu(const QString &code)
@@ -137,7 +136,7 @@ int supprime(Session &session, const Appel &appel)
 int liste(Session &session)
 {
     for (const CodeAbsence &code : codesDeLaListe(session))
-        imprimeChamps(champsDe(code));
+        imprimeChamps(textesRangee(code));
     return reussi;
 }
 

@@ -12,5 +12,9 @@ std::vector<Commande> commandesControle();
 std::vector<Commande> commandesLignes();
 std::vector<Commande> commandesAbsences();
 std::vector<Commande> commandesCodes();
+std::vector<Commande> commandesAbsences();
+std::vector<Commande> commandesCodes();
+std::vector<Commande> commandesControle();
+std::vector<Commande> commandesLignes();
 
 } // namespace velmora::cli

@@ -1,4 +1,4 @@
-#include "month/fplan_form.h"
+#include "month/open_form.h"
 #include "support/modal.h"
 
 #include <QLineEdit>

@@ -1,6 +1,5 @@
-#include "month/fplan_form.h"
-
 #include "absences/saisabs.h"
+#include "month/open_form.h"
 #include "support/modal.h"
 #include "workstation/toolbar_state.h"
 
@@ -34,6 +33,17 @@ protected:
         for (int day = from; day <= to; ++day)
             texts << cell(1, QDate(2026, 6, day));
         return texts.join(QLatin1Char(' '));
+    }
+    /// Drags over days of the first line.
+    void drag(const QDate &from, const QDate &to)
+    {
+        const QPoint end = at(1, to);
+        QTest::mousePress(grid()->viewport(), Qt::LeftButton, {}, at(1, from));
+        QMouseEvent move(QEvent::MouseMove, end, grid()->viewport()->mapToGlobal(end), Qt::NoButton,
+                         Qt::LeftButton, {});
+        QApplication::sendEvent(grid()->viewport(), &move);
+        QTest::mouseRelease(grid()->viewport(), Qt::LeftButton, {}, end);
+        settle();
     }
     QAction *entry(const char *name) { return form->findChild<QAction *>(QLatin1String(name)); }
     void backToTheGrid()
@@ -119,7 +129,7 @@ TEST_F(FplanAbsences, TheMenuAndTheButtonTakeTheSelectionAndForgetTheCodeTyped)
     };
     for (const Case &one : cases) {
         session.abscode = QStringLiteral(" R");
-        drag(1, QDate(2026, 6, 8), QDate(2026, 6, 10));
+        drag(QDate(2026, 6, 8), QDate(2026, 6, 10));
         ASSERT_TRUE(planning().selection.selact);
         bool opened = false;
         withDialog<Saisabs>([&](Saisabs &dialog) {

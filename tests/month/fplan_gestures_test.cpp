@@ -1,6 +1,6 @@
 #include "month/fplan.h"
 
-#include "month/fplan_form.h"
+#include "month/open_form.h"
 
 #include <QHeaderView>
 #include <QLineEdit>

@@ -1,9 +1,8 @@
-#include "month/fplan_form.h"
+#include "month/fplan.h"
 
-#include "entry/partielm.h"
+#include "month/open_form.h"
 #include "support/modal.h"
 
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -93,7 +92,17 @@ TEST_F(FplanTest, AClickOnANameOrItsMarkShowsTheReportOfALineWithControls)
 TEST_F(FplanTest, ADragSelectsDaysOfOneLineAndAMoveGivesTheirColoursBack)
 {
     openMonth();
-    drag(1, QDate(2026, 6, 4), QDate(2026, 6, 8)); // over the week's total
+    const auto drag = [this](const QDate &from, const QDate &to) {
+        const QPoint start = at(1, from);
+        const QPoint end = at(2, to); // a row below: the row is forced back
+        QTest::mousePress(grid()->viewport(), Qt::LeftButton, {}, start);
+        QMouseEvent move(QEvent::MouseMove, end, grid()->viewport()->mapToGlobal(end), Qt::NoButton,
+                         Qt::LeftButton, {});
+        QApplication::sendEvent(grid()->viewport(), &move);
+        QTest::mouseRelease(grid()->viewport(), Qt::LeftButton, {}, end);
+        settle();
+    };
+    drag(QDate(2026, 6, 4), QDate(2026, 6, 8)); // over the week's total
     EXPECT_TRUE(planning().selection.selact);
     EXPECT_EQ(planning().selection.coulfond.size(), 5);
     EXPECT_EQ(planning().curseur, (Place{3, column(QDate(2026, 6, 4))}));
@@ -102,7 +111,7 @@ TEST_F(FplanTest, ADragSelectsDaysOfOneLineAndAMoveGivesTheirColoursBack)
     EXPECT_FALSE(planning().selection.selact);
     for (int day = 4; day <= 8; ++day)
         EXPECT_NE(planning().grille.lit(3, column(QDate(2026, 6, day))).fond, palette::fondSelection) << day;
-    drag(1, QDate(2026, 6, 5), QDate(2026, 6, 3)); // to the left of the anchor
+    drag(QDate(2026, 6, 5), QDate(2026, 6, 3)); // to the left of the anchor
     EXPECT_FALSE(planning().selection.selact);
     EXPECT_TRUE(planning().suivi);
 }
@@ -134,7 +143,7 @@ TEST_F(FplanTest, OneEntryChangesCellWeekMonthColumnTotalsAndJournal)
 {
     openMonth();
     click(1, june3);
-    withDialog<Partielm>([](Partielm &dialog) {
+    withDialog([](Partielm &dialog) {
         QTest::qWait(330);
         type(dialog, "Text1", "09h00");
         type(dialog, "Text2", "12h00");
@@ -188,7 +197,7 @@ TEST_F(FplanTest, TheStarOpensTheEntryAndEscapeWritesNothing)
     openMonth();
     click(1, QDate(2026, 6, 4));
     bool opened = false;
-    withDialog<Partielm>([&opened](Partielm &dialog) {
+    withDialog([&opened](Partielm &dialog) {
         opened = true;
         QTest::keyClick(&dialog, Qt::Key_Escape);
     });

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "entry/partielm.h"
 #include "month/fplan.h"
 #include "support/workstation.h"
 
 #include <QApplication>
+#include <QHeaderView>
 #include <QLabel>
 #include <QSignalSpy>
 #include <QTest>
@@ -65,21 +67,9 @@ protected:
     }
     QString status() { return form->findChild<QLabel *>(QStringLiteral("statut"))->text(); }
 
-    /// Drags from a day of a line to a point of the row below: the row is forced back.
-    void drag(int nump, const QDate &from, const QDate &to)
-    {
-        const QPoint start = at(nump, from);
-        const QPoint end = at(nump, to) + QPoint(0, grid()->rowHeight(0));
-        QTest::mousePress(grid()->viewport(), Qt::LeftButton, {}, start);
-        QMouseEvent move(QEvent::MouseMove, end, grid()->viewport()->mapToGlobal(end), Qt::NoButton,
-                         Qt::LeftButton, {});
-        QApplication::sendEvent(grid()->viewport(), &move);
-        QTest::mouseRelease(grid()->viewport(), Qt::LeftButton, {}, end);
-        settle();
-    }
-
-    /// Acts on the dialog that the next event opens.
-    template <class Dialog> void withDialog(const std::function<void(Dialog &)> &act)
+    /// Acts on the dialog that the next event opens, the day entry unless another is named.
+    template <class Dialog = Partielm>
+    void withDialog(const std::function<void(std::type_identity_t<Dialog> &)> &act)
     {
         QTimer::singleShot(60, form.get(), [act] {
             auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
