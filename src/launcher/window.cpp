@@ -1,6 +1,9 @@
 #include "launcher/window.h"
 
+#include "calendar/ferie1.h"
+#include "calendar/fparcg.h"
 #include "cli/start.h"
+#include "folders/groupt.h"
 #include "month/fplan.h"
 #include "session/qt_host.h"
 #include "session/velmoral.h"
@@ -41,6 +44,13 @@ private:
     bool m_dit = false;
 };
 
+/// Shows a window that needs nothing but the session until it closes.
+template <class Fenetre> void montre(Session &session, QWidget *parent)
+{
+    Fenetre fenetre(session, parent);
+    fenetre.exec();
+}
+
 } // namespace
 
 MonthView *nouveauMois(Session &session, QWidget *parent)
@@ -52,6 +62,9 @@ std::unique_ptr<Mdivel> fenetrePrincipale(Session &session)
 {
     Ouvertures ouvertures;
     ouvertures.mois = nouveauMois;
+    ouvertures.parametres = montre<Fparcg>;
+    ouvertures.dossiers = montre<Groupt>;
+    ouvertures.feries = ouvreferies;
     return std::make_unique<Mdivel>(session, ouvertures);
 }
 
