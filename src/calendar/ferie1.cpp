@@ -61,7 +61,7 @@ void Ferie1::dispose()
     volet->addWidget(m_text1);
     volet->addWidget(new QLabel(QStringLiteral("Libellé"), m_frame1));
     volet->addWidget(m_text3);
-    volet->addStretch();
+    m_frame1->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     const int lettre = fontMetrics().averageCharWidth();
     m_list1->setMinimumSize(lettre * (lettresLibelle + 28), fontMetrics().height() * 20);
     m_text3->setMinimumWidth(lettre * (lettresLibelle + 4));

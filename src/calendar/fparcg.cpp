@@ -65,7 +65,7 @@ void Fparcg::dispose()
     m_text1->setFixedWidth(lettre * lettresDate);
     auto *const volet = new QVBoxLayout(m_frame1);
     volet->addWidget(m_text1);
-    volet->addStretch();
+    m_frame1->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     disposeListe(this, {m_list1, m_frame1, m_command2, m_command3, m_command4, m_command1, m_command5},
                  m_label1);
 }

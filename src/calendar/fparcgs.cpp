@@ -102,10 +102,8 @@ void Fparcgs::charge()
     m_text1->setEnabled(m_session.modeajout);
     m_combo2->setCurrentIndex(depart.region);
     m_text2->setText(depart.nometab);
-    if (m_session.modeajout)
-        m_text1->setFocus();
-    else
-        m_combo2->setFocus();
+    (m_session.modeajout ? static_cast<QWidget *>(m_text1) : m_combo2)->setFocus();
+    m_text1->selectAll(); // the focus may have come before the text
     m_pret = true;
 }
 

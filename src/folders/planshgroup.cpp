@@ -111,7 +111,8 @@ void Planshgroup::ok()
     if (!m_pret) return;
     for (int rang = 0; rang < m_list1->count(); ++rang)
         m_composition.coche(rang, m_list1->item(rang)->checkState() == Qt::Checked);
-    if (!m_composition.valide(m_text1->text()) || !m_composition.enregistre(m_text1->text())) return;
+    if (!m_composition.valide(m_text1->text())) return m_text1->setFocus();
+    if (!m_composition.enregistre(m_text1->text())) return;
     m_session.dlgvalide = true;
     accept();
 }

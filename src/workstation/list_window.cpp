@@ -29,6 +29,7 @@ QLayout *disposeVolet(const FenetreListe &fenetre)
         commandes->addWidget(commande);
     auto *const colonne = new QVBoxLayout;
     colonne->addWidget(fenetre.volet, 1);
+    colonne->addStretch();
     colonne->addLayout(commandes);
     return colonne;
 }
@@ -38,6 +39,7 @@ QLayout *disposeVolet(const FenetreListe &fenetre)
 QLayout *rangeeCommandes(QDialog *dialogue, QPushButton *aide, const QList<QPushButton *> &fins)
 {
     auto *const rangee = new QHBoxLayout;
+    rangee->setContentsMargins(0, dialogue->fontMetrics().height() / 2, 0, 0);
     if (aide) {
         aide->setAutoDefault(false);
         aide->setToolTip(QStringLiteral("Aide"));
