@@ -16,5 +16,7 @@ std::vector<Commande> commandesAbsences();
 std::vector<Commande> commandesCodes();
 std::vector<Commande> commandesControle();
 std::vector<Commande> commandesLignes();
+std::vector<Commande> commandesCalendrier();
+std::vector<Commande> commandesDossiers();
 
 } // namespace velmora::cli
