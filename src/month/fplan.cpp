@@ -207,6 +207,7 @@ void Fplan::relieMenus()
     m_menus.lie(QStringLiteral("mnusais"), this, &Fplan::saisitHeures);
     m_menus.lie(QStringLiteral("mnuaid"), this,
                 [this] { ouvreaide(m_session, QStringLiteral("sommaire.htm")); });
+    relieImpressions();
     m_menus.lie(QStringLiteral("mnuferm"), this, [this] { close(); });
 }
 

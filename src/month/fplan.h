@@ -41,6 +41,7 @@ private:
     void construitEntete();
     void relie();
     void relieMenus();
+    void relieImpressions();
     void mesure();
 
     void charge();
@@ -65,6 +66,9 @@ private:
     void finitCode();
     void montreMenuGrille(const QPoint &point);
     void choisitTotaux(bool centiemes);
+    void imprimeLigne();
+    void imprimeEnsemble();
+    void imprimeSemaine();
     void touchePressee(const QString &texte);
 
     Session &m_session;
