@@ -147,4 +147,4 @@ const std::vector<Commande> &commandes()
 {
     static const std::vector<Commande> toutes = [] {
         std::vector<Commande> reunies;
-        for (const auto famille : {commandesBase, commandesMois, commandesControle, commandesLignes, commandesAbsences, commandesCodes, commandesAbsences, commandesCodes, commandesControle, commandesLignes, commandesCalendrier, commandesDossiers})
+        for (const auto famille : {commandesBase, commandesMois, commandesControle, commandesLignes, commandesAbsences, commandesCodes, commandesAbsences, commandesCodes, commandesControle, commandesLignes, commandesCalendrier, commandesDossiers, commandesImpressions})

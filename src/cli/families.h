@@ -18,5 +18,6 @@ std::vector<Commande> commandesControle();
 std::vector<Commande> commandesLignes();
 std::vector<Commande> commandesCalendrier();
 std::vector<Commande> commandesDossiers();
+std::vector<Commande> commandesImpressions();
 
 } // namespace velmora::cli

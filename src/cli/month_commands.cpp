@@ -44,13 +44,6 @@ QString refusMois(Session &session, const QString &texte)
     return {};
 }
 
-QString refusDossier(Session &session, const QString &dossier)
-{
-    if (!dossier.isEmpty() && !placedossier(session, dossier)) return dossierInconnu(dossier);
-    session.dossiervue = dossier;
-    return {};
-}
-
 int imprimeMois(Session &session)
 {
     Planning planning(session, session.moisvue, session.anvue);
@@ -63,8 +56,10 @@ int imprimeMois(Session &session)
 int mois(Session &session, const Appel &appel)
 {
     QString impossible = refusMois(session, appel.mots.first());
-    if (impossible.isEmpty()) impossible = refusDossier(session, appel.arguments.valeur("dossier"));
+    const QString dossier = appel.arguments.valeur("dossier");
+    if (impossible.isEmpty()) impossible = refusDossier(session, dossier);
     if (!impossible.isEmpty()) return refus(impossible);
+    session.dossiervue = dossier;
     session.totcent = appel.arguments.a("centiemes");
     const int statut = imprimeMois(session);
     if (statut != reussi || !appel.arguments.a("png")) return statut;

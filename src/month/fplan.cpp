@@ -214,6 +214,7 @@ void Fplan::relieMenus()
     relieAbsences();
     m_menus.lie(QStringLiteral("mnuaid"), this,
                 [this] { ouvreaide(m_session, QStringLiteral("sommaire.htm")); });
+    relieImpressions();
     m_menus.lie(QStringLiteral("mnuferm"), this, [this] { close(); });
 }
 

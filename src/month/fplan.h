@@ -43,6 +43,7 @@ private:
     void relieMenus();
     void relieLignes();
     void relieAbsences();
+    void relieImpressions();
     void mesure();
 
     void charge();
@@ -77,6 +78,9 @@ private:
     template <class Dialogue> [[nodiscard]] bool demande(const Ligne &ligne);
     void termineLigne();
 
+    void imprimeLigne();
+    void imprimeEnsemble();
+    void imprimeSemaine();
     void touchePressee(const QString &texte);
 
     Session &m_session;
