@@ -1,0 +1,61 @@
+#pragma once
+
+#include "session/session.h"
+
+#include <functional>
+
+namespace velmora
+{
+
+/// The two bars of the export's dialog. They serve the display only: the export always spans the whole
+/// month, and that is wanted. A position p stands for the day p of the period.
+struct BarresExport {
+    /// The bars of a period of so many days.
+    explicit BarresExport(int jours);
+
+    int minimum1 = 1; ///< of the first day's bar
+    int maximum1;
+    int minimum2; ///< of the last day's bar
+    int maximum2;
+    int position1;
+    int position2;
+
+    /// The position of the last day's bar that is at least 6 past that of the first day's.
+    [[nodiscard]] static int suit(int position1, int position2);
+};
+
+/// Name of the work file, in the second folder of the session: plain text in the encoding Windows-1252, which
+/// spreadsheet programs expect of this kind of text, tabs between the cells, CR and LF at the end of a row.
+inline const QString fichierExport = QStringLiteral("Velexc.txt");
+
+/// Name of the workbook, in the first folder of the session. It ends as what it is: a spreadsheet program
+/// warns of a workbook of this form that bears the older ".xls".
+inline const QString classeurExport = QStringLiteral("Planning-Velmora.xlsx");
+
+/// What an export has made.
+struct Exportation {
+    QString fichier;  ///< the work file
+    QString classeur; ///< the workbook
+    /// The whole text, as it is handed over for pasting. Unlike the work file it has no empty row after the
+    /// head and the blocks, and a name that would be taken for a formula has a blank in front.
+    QString texte;
+    store::Status lecture{}; ///< first failure of the tables: rows are missing then
+    bool fichierEcrit = false;
+    bool classeurEcrit = false;
+};
+
+/// Writes the planning of a period, both dates included, for every line open on some day of it: the work
+/// file and the workbook. A step that fails is passed over and the others run. `progres` is told how many
+/// rows of `ligmois` have been gone through.
+[[nodiscard]] Exportation exporte(Session &session, const QDate &debut, const QDate &fin,
+                                  const std::function<void(int)> &progres = {});
+
+/// Hands an export to the desktop's spreadsheet program: opens the workbook and gives the text to `copie`.
+/// Says so when there is no such program or no workbook.
+void remet(Session &session, const Exportation &exportation,
+           const std::function<void(const QString &)> &copie);
+
+/// Why an export isn't whole, in a sentence; empty when it is.
+[[nodiscard]] QString defautExport(const Exportation &exportation);
+
+} // namespace velmora
