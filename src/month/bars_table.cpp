@@ -4,6 +4,7 @@
 #include "workstation/controls.h"
 
 #include <QBoxLayout>
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QMouseEvent>

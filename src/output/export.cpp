@@ -8,16 +8,11 @@
 
 #include <QFile>
 
-#include <algorithm>
-
 namespace velmora
 {
 
 namespace
 {
-
-constexpr int ecartBarres = 6;
-constexpr int joursMontres = 27;
 
 /// The work file. A failure to open it or to write on it is kept for the end.
 class FichierTexte
@@ -82,17 +77,6 @@ store::Status parLigne(Session &session, const QDate &debut, const QDate &fin,
 }
 
 } // namespace
-
-BarresExport::BarresExport(int jours)
-    : maximum1(jours - ecartBarres), minimum2(1 + ecartBarres), maximum2(jours),
-      position1(std::max(jours - joursMontres, 1)), position2(jours)
-{
-}
-
-int BarresExport::suit(int position1, int position2)
-{
-    return std::max(position2, position1 + ecartBarres);
-}
 
 Exportation exporte(Session &session, const QDate &debut, const QDate &fin,
                     const std::function<void(int)> &progres)

@@ -7,23 +7,6 @@
 namespace velmora
 {
 
-/// The two bars of the export's dialog. They serve the display only: the export always spans the whole
-/// month, and that is wanted. A position p stands for the day p of the period.
-struct BarresExport {
-    /// The bars of a period of so many days.
-    explicit BarresExport(int jours);
-
-    int minimum1 = 1; ///< of the first day's bar
-    int maximum1;
-    int minimum2; ///< of the last day's bar
-    int maximum2;
-    int position1;
-    int position2;
-
-    /// The position of the last day's bar that is at least 6 past that of the first day's.
-    [[nodiscard]] static int suit(int position1, int position2);
-};
-
 /// Name of the work file, in the second folder of the session: plain text in the encoding Windows-1252, which
 /// spreadsheet programs expect of this kind of text, tabs between the cells, CR and LF at the end of a row.
 inline const QString fichierExport = QStringLiteral("Velexc.txt");

@@ -9,7 +9,6 @@
 #include <QGuiApplication>
 #include <QProgressBar>
 #include <QScrollBar>
-#include <QSignalBlocker>
 
 #include <chrono>
 
@@ -40,7 +39,8 @@ QScrollBar *barreDeDates(QWidget *parent, const char *nom, const QString &access
 } // namespace
 
 Export1::Export1(Session &session, QWidget *parent)
-    : QDialog(parent), m_session(session), m_datedeb(session.impdeb), m_datefin(session.impfin)
+    : QDialog(parent), m_session(session), m_datedeb(session.impdeb), m_datefin(session.impfin),
+      m_barres(m_datedeb, m_datefin)
 {
     m_session.dlgvalide = false;
     construit();
@@ -110,31 +110,31 @@ void Export1::dispose()
 void Export1::relie()
 {
     connect(&m_timer1, &QTimer::timeout, this, &Export1::prepareBarres);
-    connect(m_vs1, &QScrollBar::valueChanged, this, &Export1::montreDates);
-    connect(m_vs2, &QScrollBar::valueChanged, this, &Export1::montreDates);
     connect(m_command1, &QPushButton::clicked, this, &Export1::command1Click);
     connect(m_command2, &QPushButton::clicked, this, &Export1::reject);
 }
 
 void Export1::prepareBarres()
 {
-    const BarresExport barres(static_cast<int>(m_datedeb.daysTo(m_datefin)) + 1);
-    {
-        const QSignalBlocker silence1(m_vs1);
-        const QSignalBlocker silence2(m_vs2);
-        m_vs1->setRange(barres.minimum1, barres.maximum1);
-        m_vs2->setRange(barres.minimum2, barres.maximum2);
-        m_vs1->setValue(barres.position1);
-        m_vs2->setValue(barres.position2);
-    }
+    m_vs1->setRange(BarresPeriode::minimum1, m_barres.maximum1());
+    m_vs2->setRange(BarresPeriode::minimum2, m_barres.maximum2());
     montreDates();
+    connect(m_vs1, &QScrollBar::valueChanged, this, [this](int position) {
+        m_barres.deplaceVs1(position);
+        montreDates();
+    });
+    connect(m_vs2, &QScrollBar::valueChanged, this, [this](int position) {
+        m_barres.deplaceVs2(position);
+        montreDates();
+    });
 }
 
 void Export1::montreDates()
 {
-    m_vs2->setValue(BarresExport::suit(m_vs1->value(), m_vs2->value()));
-    m_label1->setText(Foncgen::dtoc(m_datedeb.addDays(m_vs1->value() - 1)));
-    m_label2->setText(Foncgen::dtoc(m_datedeb.addDays(m_vs2->value() - 1)));
+    m_vs1->setValue(m_barres.vs1());
+    m_vs2->setValue(m_barres.vs2());
+    m_label1->setText(Foncgen::dtoc(m_barres.premier()));
+    m_label2->setText(Foncgen::dtoc(m_barres.dernier()));
 }
 
 void Export1::command1Click()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "output/export.h"
+#include "output/period_bars.h"
 
 #include <QDialog>
 #include <QTimer>
@@ -36,6 +37,9 @@ private:
     Session &m_session;
     QDate m_datedeb; ///< `datedeb` and `datefin`: the month exported
     QDate m_datefin;
+    /// What the two bars stand on. They serve the display only: the export always spans the whole month, and
+    /// that is wanted.
+    BarresPeriode m_barres;
 
     QScrollBar *m_vs1 = nullptr;       ///< first day of the display, in `Frame4` "Dates"
     QLabel *m_label1 = nullptr;        ///< its date

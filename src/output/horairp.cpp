@@ -36,9 +36,9 @@ std::vector<RangeeBarres> rangeesDe(const std::vector<HorairePratique> &horaires
     std::vector<RangeeBarres> rangees;
     rangees.reserve(horaires.size());
     for (const HorairePratique &horaire : horaires) {
-        rangees.push_back({textesHoraire(horaire),
-                           barresSurLHorloge({horaire.heurdeb, horaire.hideb, horaire.hifin, horaire.heurfin,
-                                              horaire.hideb2, horaire.hifin2})});
+        rangees.push_back(
+            {textesHoraire(horaire), barresSurLHorloge({horaire.heurdeb, horaire.hideb, horaire.hifin,
+                                                        horaire.heurfin, horaire.hideb2, horaire.hifin2})});
     }
     return rangees;
 }

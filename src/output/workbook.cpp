@@ -84,6 +84,16 @@ struct Classeur::Feuille {
     {
         worksheet_write_string(feuille, ou, colonne, valeur.toUtf8().constData(), format);
     }
+    void jours(lxw_row_t ou, const QDate &debut, const QDate &fin) const
+    {
+        texte(ou, 0, QStringLiteral("NOM "), jour);
+        worksheet_write_blank(feuille, ou, 1, jour);
+        lxw_col_t colonne = premierJour;
+        for (QDate un = debut; un <= fin; un = un.addDays(1)) {
+            lxw_datetime date{un.year(), un.month(), un.day(), 0, 0, 0};
+            worksheet_write_datetime(feuille, ou, colonne++, &date, jour);
+        }
+    }
     void ecrit(lxw_row_t ou, lxw_col_t colonne, const CaseExport &une, lxw_format *format) const
     {
         switch (une.sorte) {
@@ -127,19 +137,17 @@ Classeur::Classeur(const QString &fichier, const QDate &debut, const QDate &fin)
 
 Classeur::~Classeur() = default;
 
+/// The rows of the head one after the other: a row can't be gone back to. Those without text are thin.
 void Classeur::ecritEntete(const QDate &debut, const QDate &fin)
 {
     const Feuille &f = *m_feuille;
-    for (lxw_row_t rangee = 0; rangee < rangeesEntete; ++rangee)
-        if (rangee != rangeeTitre && rangee != rangeeJours)
+    for (lxw_row_t rangee = 0; rangee < rangeesEntete; ++rangee) {
+        if (rangee == rangeeTitre)
+            f.texte(rangee, premierJour, titreExport(debut, fin), f.titre);
+        else if (rangee == rangeeJours)
+            f.jours(rangee, debut, fin);
+        else
             worksheet_set_row(f.feuille, rangee, hauteurVide, nullptr);
-    f.texte(rangeeTitre, premierJour, titreExport(debut, fin), f.titre);
-    f.texte(rangeeJours, 0, QStringLiteral("NOM "), f.jour);
-    worksheet_write_blank(f.feuille, rangeeJours, 1, f.jour);
-    lxw_col_t colonne = premierJour;
-    for (QDate jour = debut; jour <= fin; jour = jour.addDays(1)) {
-        lxw_datetime date{jour.year(), jour.month(), jour.day(), 0, 0, 0};
-        worksheet_write_datetime(f.feuille, rangeeJours, colonne++, &date, f.jour);
     }
 }
 
