@@ -9,7 +9,7 @@ build_packages=(
     breeze-icon-theme fonts-dejavu-core
 )
 # What the tests drive the program with and read its pages with.
-test_packages=(xvfb xdotool poppler-utils imagemagick)
+test_packages=(xvfb xdotool poppler-utils imagemagick unzip)
 
 # Prints the packages among the arguments that are not installed.
 missing_packages() {

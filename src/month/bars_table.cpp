@@ -199,9 +199,10 @@ void VueBarres::wheelEvent(QWheelEvent *event)
 }
 
 TableauBarres::TableauBarres(const Noms &noms, const Graduations &graduations, QWidget *parent)
-    : QWidget(parent), m_table(new QTableView(this)), m_echelle(new VueEchelle(graduations, this)),
+    : QFrame(parent), m_table(new QTableView(this)), m_echelle(new VueEchelle(graduations, this)),
       m_barres(nullptr), m_defilement(new QScrollBar(Qt::Vertical, this))
 {
+    setFrameShape(QFrame::StyledPanel);
     construitTable(noms.table);
     nomme(m_echelle, noms.echelle);
     m_barres = nomme(new VueBarres(*m_table, m_modele, this), noms.barres);

@@ -3,7 +3,7 @@
 #include "month/day_bars.h"
 
 #include <QAbstractTableModel>
-#include <QWidget>
+#include <QFrame>
 
 #include <functional>
 
@@ -86,7 +86,7 @@ private:
 };
 
 /// A table with a bar for each row at its right, under a scale of hours. They scroll together.
-class TableauBarres : public QWidget
+class TableauBarres : public QFrame
 {
     Q_OBJECT
 

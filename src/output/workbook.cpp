@@ -169,7 +169,9 @@ void Classeur::ajouteBloc(const BlocExport &bloc)
 
 bool Classeur::termine()
 {
-    if (!m_feuille->feuille) return false;
+    // The library tells a failure of its own on the standard error, so it is kept from one.
+    if (!m_feuille->feuille || !QFile(QFile::decodeName(m_feuille->nom)).open(QIODevice::WriteOnly))
+        return false;
     const bool ecrit = workbook_close(std::exchange(m_feuille->classeur, nullptr)) == LXW_NO_ERROR;
     const QByteArray &passager = m_feuille->nom;
     if (ecrit && std::rename(passager.constData(), QFile::encodeName(m_fichier).constData()) == 0)
