@@ -1,4 +1,5 @@
 #include "cli/families.h"
+#include "cli/line_days.h"
 #include "cli/month_commands.h"
 #include "cli/output.h"
 #include "cli/start.h"
@@ -24,18 +25,17 @@ int exporteMois(Session &session, const QString &texteMois)
     return reussi;
 }
 
-/// The schedules between two dates as typed, for the work on them; a refusal with its reason otherwise.
-int surHoraires(Session &session, const Appel &appel,
-                const std::function<int(const HorairesPratiques &, const QDate &, const QDate &)> &travail)
+int afficheHoraires(Session &session, const Appel &appel)
 {
-    const QDate debut = Foncgen::ctod(appel.mots[0]);
-    const QDate fin = Foncgen::ctod(appel.mots[1]);
-    if (!debut.isValid()) return refus(dateIllisible(appel.mots[0]));
-    if (!fin.isValid()) return refus(dateIllisible(appel.mots[1]));
-    if (fin < debut) return refus(QStringLiteral("La date de fin est avant la date de début."));
-    const HorairesPratiques rapport = horairesPratiques(session, debut, fin);
-    if (!rapport.lecture.ok()) return refus(lectureIncomplete);
-    return rapport.donnees ? travail(rapport, debut, fin) : refus(planningNonGenere);
+    const PeriodeLue periode = litPeriode(session, appel.mots[0], appel.mots[1]);
+    if (!periode.refus.isEmpty()) return refus(periode.refus);
+    const HorairesPratiques rapport = horairesPratiques(session, periode.debut, periode.fin);
+    const QString defaut = defautHoraires(rapport);
+    if (!defaut.isEmpty()) return refus(defaut);
+    imprimeChamps(titresHoraires());
+    for (const HorairePratique &horaire : rapport.horaires)
+        imprimeChamps(textesHoraire(horaire));
+    return reussi;
 }
 
 int commandeExport(const Appel &appel)
@@ -45,15 +45,7 @@ int commandeExport(const Appel &appel)
 
 int commandeHoraires(const Appel &appel)
 {
-    return surSession(appel, [&](Session &session) {
-        return surHoraires(session, appel,
-                           [](const HorairesPratiques &rapport, const QDate &, const QDate &) {
-                               imprimeChamps(titresHoraires());
-                               for (const HorairePratique &horaire : rapport.horaires)
-                                   imprimeChamps(textesHoraire(horaire));
-                               return reussi;
-                           });
-    });
+    return surSession(appel, [&](Session &session) { return afficheHoraires(session, appel); });
 }
 
 } // namespace

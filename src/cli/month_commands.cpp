@@ -27,16 +27,6 @@ int mauvaisesCellules()
     return mauvaisUsage(QStringLiteral("--cellules vaut 0, 1 ou 2"));
 }
 
-QString refusDossier(Session &session, const QString &dossier)
-{
-    auto &groupe = session.base.groupe;
-    groupe.setIndex("groupegn");
-    if (!dossier.isEmpty() && !groupe.seek(store::Cmp::Eq, {dossier, 0}))
-        return QStringLiteral("Le dossier « %1 » n'existe pas.").arg(dossier);
-    session.dossiervue = dossier;
-    return {};
-}
-
 int imprimeMois(Session &session)
 {
     Planning planning(session, session.moisvue, session.anvue);
@@ -49,8 +39,10 @@ int imprimeMois(Session &session)
 int mois(Session &session, const Appel &appel)
 {
     QString impossible = refusMois(session, appel.mots.first());
-    if (impossible.isEmpty()) impossible = refusDossier(session, appel.arguments.valeur("dossier"));
+    const QString dossier = appel.arguments.valeur("dossier");
+    if (impossible.isEmpty()) impossible = refusDossier(session, dossier);
     if (!impossible.isEmpty()) return refus(impossible);
+    session.dossiervue = dossier;
     session.totcent = appel.arguments.a("centiemes");
     const int statut = imprimeMois(session);
     if (statut != reussi || !appel.arguments.a("png")) return statut;

@@ -44,6 +44,14 @@ bool placeLigne(Session &session, const QString &nump)
     return numero && ligmois.seek(store::Cmp::Eq, {*numero});
 }
 
+QString refusDossier(Session &session, const QString &dossier)
+{
+    auto &groupe = session.base.groupe;
+    groupe.setIndex("groupegn");
+    if (dossier.isEmpty() || groupe.seek(store::Cmp::Eq, {dossier, 0})) return {};
+    return QStringLiteral("Le dossier « %1 » n'existe pas.").arg(dossier);
+}
+
 QString ligneInconnue(const QString &nump)
 {
     return QStringLiteral("La ligne %1 n'existe pas.").arg(nump);

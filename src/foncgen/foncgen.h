@@ -65,7 +65,7 @@ public:
     static void pprint(Imprimante &imprimante, int &ligne, int colonne, const QString &texte);
     /// The same, centred on the left edge of the column.
     static void pprintc(Imprimante &imprimante, int &ligne, int colonne, const QString &texte);
-    /// The same, ending at the left edge of the column.
+    /// The same, ending a hair before the left edge of the column: a rule may stand there.
     static void pprintd(Imprimante &imprimante, int &ligne, int colonne, const QString &texte);
 
     /// Draws a frame from the top of `ligne` to the bottom of `derniereLigne`, between the left edges of two

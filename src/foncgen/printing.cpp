@@ -16,6 +16,8 @@ namespace
 constexpr double aGauche = 0;
 constexpr double auMilieu = 0.5;
 constexpr double aDroite = 1;
+/// Between the end of a text and the rule that may stand on its column.
+constexpr int jeu = 40;
 
 void ecrit(Imprimante &imprimante, int &ligne, int colonne, const QString &texte, double part)
 {
@@ -24,7 +26,8 @@ void ecrit(Imprimante &imprimante, int &ligne, int colonne, const QString &texte
     for (;; ++ligne) {
         const qsizetype fin = texte.indexOf(QLatin1Char('\n'), debut);
         const QString une = fin < 0 && debut == 0 ? texte : texte.mid(debut, fin < 0 ? -1 : fin - debut);
-        const double retrait = part > 0 ? part * imprimante.largeurTexte(une) : 0;
+        double retrait = part > 0 ? part * imprimante.largeurTexte(une) : 0;
+        if (part == aDroite) retrait += jeu;
         imprimante.ecrit(papier::x(colonne) - retrait, papier::y(ligne) + marge, une);
         if (fin < 0) return;
         debut = fin + 1;

@@ -209,6 +209,7 @@ void Fplan::relieMenus()
     relieZoom();
     m_menus.lie(QStringLiteral("mnuaid"), this,
                 [this] { ouvreaide(m_session, QStringLiteral("sommaire.htm")); });
+    relieImpressions();
     m_menus.lie(QStringLiteral("mnuferm"), this, [this] { close(); });
 }
 

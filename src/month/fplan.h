@@ -47,6 +47,7 @@ private:
     void relieMenus();
     void relieSorties();
     void relieZoom();
+    void relieImpressions();
     void mesure();
 
     void charge();
@@ -78,6 +79,9 @@ private:
     void montreZoom();
     void zoomClique(int rangee);
 
+    void imprimeLigne();
+    void imprimeEnsemble();
+    void imprimeSemaine();
     void touchePressee(const QString &texte);
 
     Session &m_session;

@@ -1,5 +1,6 @@
 #include "month/loading.h"
 
+#include "folders/membership.h"
 #include "month/cursor.h"
 #include "month/refresh.h"
 #include "month/rows.h"
@@ -121,10 +122,7 @@ int compteLignes(Session &session, const Periode &periode)
 
 bool ligdossier(Session &session, int nump)
 {
-    if (session.dossiervue.isEmpty()) return true;
-    auto &groupe = session.base.groupe;
-    groupe.setIndex("groupeng");
-    return groupe.seek(store::Cmp::Eq, {nump, session.dossiervue});
+    return dansDossier(session, nump, session.dossiervue);
 }
 
 void chargeligne(Planning &planning, const Ligne &ligne)

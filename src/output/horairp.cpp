@@ -2,6 +2,7 @@
 
 #include "month/bars_table.h"
 #include "month/twips.h"
+#include "output/practised_print.h"
 #include "workstation/controls.h"
 
 #include <QBoxLayout>
@@ -46,7 +47,8 @@ std::vector<RangeeBarres> rangeesDe(const std::vector<HorairePratique> &horaires
 } // namespace
 
 Horairp::Horairp(Session &session, QWidget *parent)
-    : QDialog(parent), m_session(session), m_debut(session.impdate), m_fin(session.impdeb)
+    : QDialog(parent), m_session(session), m_debut(session.impdate), m_fin(session.impdeb),
+      m_sortie(session, this)
 {
     m_session.dlgvalide = false;
     construit();
@@ -74,7 +76,10 @@ void Horairp::construit()
     m_pgb->setAccessibleName(QStringLiteral("Avancement"));
     m_command2 = bouton(this, "Command2", QStringLiteral("Imprimer"));
     m_command2->setAutoDefault(false);
-    m_command2->setEnabled(false);
+    m_apercu = bouton(this, "Apercu", QStringLiteral("Aperçu"));
+    m_apercu->setAutoDefault(false);
+    for (QPushButton *une : {m_command2, m_apercu})
+        une->setEnabled(false);
     m_command1 = bouton(this, "Command1", QStringLiteral("Terminer"));
     m_command1->setDefault(true);
 }
@@ -90,6 +95,7 @@ void Horairp::dispose()
     auto *const commandes = new QHBoxLayout;
     commandes->addWidget(m_pgb, 1);
     commandes->addSpacing(14);
+    commandes->addWidget(m_apercu);
     commandes->addWidget(m_command2);
     commandes->addWidget(m_command1);
     auto *const page = new QVBoxLayout(this);
@@ -111,6 +117,8 @@ void Horairp::relie()
     connect(&m_timer1, &QTimer::timeout, this, &Horairp::compte);
     connect(m_mg->table()->horizontalHeader(), &QHeaderView::sectionClicked, this, &Horairp::trie);
     connect(m_command1, &QPushButton::clicked, this, &Horairp::reject);
+    connect(m_command2, &QPushButton::clicked, this, &Horairp::imprime);
+    connect(m_apercu, &QPushButton::clicked, this, [this] { m_sortie.apercu(impression()); });
 }
 
 void Horairp::compte()
@@ -120,12 +128,13 @@ void Horairp::compte()
     m_rapport = horairesPratiques(m_session, m_debut, m_fin, [this](int lues) { m_pgb->setValue(lues); });
     m_pgb->hide();
     unsetCursor();
-    if (!m_rapport.lecture.ok())
-        m_session.host.message(lectureIncomplete, titre);
-    else if (!m_rapport.donnees)
-        m_session.host.message(planningNonGenere, titreNonGenere);
-    if (!m_rapport.donnees) return reject();
-    m_command2->setEnabled(true);
+    const QString defaut = defautHoraires(m_rapport);
+    if (!defaut.isEmpty()) {
+        m_session.host.message(defaut, titreNonGenere);
+        return reject();
+    }
+    for (QPushButton *une : {m_command2, m_apercu})
+        une->setEnabled(true);
     montre();
 }
 
@@ -140,6 +149,18 @@ void Horairp::trie(int colonne)
     const auto sens = m_mg->table()->horizontalHeader()->sortIndicatorOrder();
     trieHoraires(m_rapport.horaires, colonne, sens == Qt::AscendingOrder);
     montre();
+}
+
+Impression Horairp::impression() const
+{
+    return impressionHoraires(m_rapport.horaires, m_debut, m_fin, m_session.nometab);
+}
+
+/// One copy, on the printer that was chosen last or into a file.
+void Horairp::imprime()
+{
+    const Impression rapport = impression();
+    if (m_sortie.prepare(rapport)) m_sortie.imprime(rapport, 1);
 }
 
 } // namespace velmora

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "output/paper_output.h"
 #include "output/practised.h"
 
 #include <QDialog>
@@ -30,16 +31,20 @@ private:
     void compte();
     void montre();
     void trie(int colonne);
+    [[nodiscard]] Impression impression() const;
+    void imprime();
 
     Session &m_session;
     QDate m_debut;
     QDate m_fin;
     HorairesPratiques m_rapport;
+    SortiePapier m_sortie;
 
     TableauBarres *m_mg = nullptr;     ///< `mg`, its bars `Picture1` and their scale `Picture2`
     QProgressBar *m_pgb = nullptr;     ///< the scan
     QPushButton *m_command1 = nullptr; ///< "Terminer"
     QPushButton *m_command2 = nullptr; ///< "Imprimer"
+    QPushButton *m_apercu = nullptr;   ///< "Aperçu"
     QTimer m_timer1{this};             ///< the scan that follows the display
 };
 

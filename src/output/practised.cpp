@@ -137,7 +137,10 @@ HorairesPratiques horairesPratiques(Session &session, const QDate &debut, const 
     periode.debgrille = debut;
     periode.fingrille = fin;
     HorairesPratiques rapport;
-    if (!periodeRemplie(session, debut, fin)) return rapport;
+    if (!periodeRemplie(session, debut, fin)) {
+        rapport.lecture = session.base.sitper.status();
+        return rapport;
+    }
     Comptage comptage;
     int lues = 0;
     auto lignes = session.base.ligmois.range("ligmois01", {}, {});
@@ -152,6 +155,12 @@ HorairesPratiques horairesPratiques(Session &session, const QDate &debut, const 
     rapport.horaires = comptage.horaires();
     trieHoraires(rapport.horaires, 0, true);
     return rapport;
+}
+
+QString defautHoraires(const HorairesPratiques &rapport)
+{
+    if (!rapport.lecture.ok()) return QStringLiteral("Le planning n'a pas pu être lu en entier.");
+    return rapport.donnees ? QString() : QStringLiteral("planning non généré");
 }
 
 QStringList titresHoraires()

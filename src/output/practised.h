@@ -39,12 +39,12 @@ struct HorairesPratiques {
 [[nodiscard]] HorairesPratiques horairesPratiques(Session &session, const QDate &debut, const QDate &fin,
                                                   const std::function<void(int)> &progres = {});
 
-/// What is said of a period that holds nothing, and the title of the message.
-inline const QString planningNonGenere = QStringLiteral("planning non généré");
-inline const QString titreNonGenere = QStringLiteral("GenVelmora");
+/// What is said of schedules that can't be reported: the period holds nothing, or the tables can't be read to
+/// the end. Empty when they can.
+[[nodiscard]] QString defautHoraires(const HorairesPratiques &rapport);
 
-/// What is said when the tables can't be read to the end.
-inline const QString lectureIncomplete = QStringLiteral("Le planning n'a pas pu être lu en entier.");
+/// The title of that message.
+inline const QString titreNonGenere = QStringLiteral("GenVelmora");
 
 /// The titles of the report's eight columns and the texts of a row.
 [[nodiscard]] QStringList titresHoraires();

@@ -16,7 +16,7 @@ bool lanceImpression(QPagedPaintDevice &peripherique, const Impression &impressi
 }
 
 bool ecritPdf(const QString &fichier, const Impression &impression, const QString &police,
-              const QDateTime &moment)
+              const QDateTime &moment, const Progres &progres)
 {
     QSaveFile sortie(fichier);
     if (!sortie.open(QIODevice::WriteOnly)) return false;
@@ -25,7 +25,7 @@ bool ecritPdf(const QString &fichier, const Impression &impression, const QStrin
         QPdfWriter pdf(&sortie);
         pdf.setTitle(impression.document);
         pdf.setCreator(QStringLiteral("Velmora"));
-        complet = lanceImpression(pdf, impression, police, moment);
+        complet = lanceImpression(pdf, impression, police, moment, progres);
     }
     return complet && sortie.commit();
 }

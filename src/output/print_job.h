@@ -27,6 +27,6 @@ struct Impression {
 
 /// The same into a PDF file, which is replaced as a whole or, on a failure, not at all.
 [[nodiscard]] bool ecritPdf(const QString &fichier, const Impression &impression, const QString &police,
-                            const QDateTime &moment);
+                            const QDateTime &moment, const Progres &progres = {});
 
 } // namespace velmora

@@ -126,11 +126,13 @@ QString Imprimante::abrege(const QString &texte, double largeur) const
 
 double Imprimante::taillePour(const QString &texte, double largeur) const
 {
-    QFont police = m_police;
     double taille = m_police.pixelSize() / double(papier::twipsParPoint);
-    while (taille > tailleMini && QFontMetricsF(police).horizontalAdvance(texte) > largeur) {
+    double prise = largeurTexte(texte);
+    QFont police = m_police;
+    while (taille > tailleMini && prise > largeur) {
         taille -= pasTaille;
         police.setPixelSize(qRound(taille * papier::twipsParPoint));
+        prise = QFontMetricsF(police).horizontalAdvance(texte);
     }
     return taille;
 }

@@ -1,10 +1,12 @@
 #include "output/horairp.h"
 
 #include "support/modal.h"
+#include "support/pdf.h"
 #include "support/workstation.h"
 
 #include <QHeaderView>
 #include <QImage>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
@@ -72,6 +74,30 @@ TEST_F(HorairpTest, ShowsEachScheduleOnceWithItsBarAndSortsByAnyColumn)
     EXPECT_EQ(row(form, 0).last(), "2");
     QTest::mouseClick(&control<QPushButton>(form, "Command1"), Qt::LeftButton);
     EXPECT_FALSE(form.isVisible());
+}
+
+TEST_F(HorairpTest, PrintsTheRowsAsTheyAreSorted)
+{
+    station.addDay(1, {2026, 6, 2}, 480, 1080);
+    station.addDay(1, {2026, 6, 3}, 540, 1080);
+    station.addDay(1, {2026, 6, 4}, 540, 1080);
+    Horairp form(session);
+    form.show();
+    EXPECT_FALSE(control<QPushButton>(form, "Command2").isEnabled());
+    QTest::qWait(30);
+    control<QTableView>(form, "mg").horizontalHeader()->setSortIndicator(7, Qt::DescendingOrder);
+    emit control<QTableView>(form, "mg").horizontalHeader()->sectionClicked(7);
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("print.pdf");
+    onModal([&](QWidget &modal) {
+        control<QLineEdit>(modal, "fileNameEdit").setText(file);
+        QTest::keyClick(&modal, Qt::Key_Return);
+    });
+    QTest::mouseClick(&control<QPushButton>(form, "Command2"), Qt::LeftButton);
+    const QStringList lines = PdfFile(file).lines();
+    EXPECT_EQ(lines.value(1), "Horaires Pratiqués du 01/06/2026 au 30/06/2026");
+    EXPECT_EQ(lines.mid(3), QStringList({"9h00 18h00 9h00 2", "8h00 18h00 10h00 1"}));
+    EXPECT_TRUE(form.isVisible());
 }
 
 TEST_F(HorairpTest, APeriodWithoutDataIsToldAndTheReportHides)

@@ -92,7 +92,7 @@ TEST(PrintFrame, ServicesPlaceTextsOnTheGridAndLeaveTheLineOnTheLastOneUsed)
     EXPECT_NEAR((middle.left + middle.right) / 2, corner + 39 * 144, 10);
     EXPECT_NEAR(middle.top, word(pdf, "gauche").top, 3);
     EXPECT_NEAR(word(pdf, "dessous").top - middle.top, 240, 3);
-    EXPECT_NEAR(word(pdf, "droite").right, corner + 69 * 144, 10);
+    EXPECT_NEAR(word(pdf, "droite").right, corner + 69 * 144 - 40, 10);
     EXPECT_NEAR(word(pdf, "droite").top, word(pdf, "dessous").top, 3);
 }
 
