@@ -2,6 +2,7 @@
 
 #include "cli/output.h"
 #include "cli/start.h"
+#include "folders/folder_list.h"
 #include "folders/month_choice.h"
 #include "foncgen/foncgen.h"
 #include "month/cells.h"
@@ -25,22 +26,6 @@ std::optional<int> cellules(const Appel &appel)
 int mauvaisesCellules()
 {
     return mauvaisUsage(QStringLiteral("--cellules vaut 0, 1 ou 2"));
-}
-
-/// Why the month can't be opened; empty when the session has taken it.
-QString refusMois(Session &session, const QString &texte)
-{
-    const QDate premier = Foncgen::ctod(QStringLiteral("01/") + texte);
-    if (!premier.isValid()) return QStringLiteral("Mois illisible : ") + texte;
-    const EchelleMois echelle(session.datemin, session.datemax);
-    const int position = echelle.position({premier.month(), premier.year()});
-    if (position < echelle.minimum() || position > echelle.maximum()) {
-        return QStringLiteral("Les mois vont du %1 au %2.")
-            .arg(Foncgen::dtoc(session.datemin), Foncgen::dtoc(session.datemax));
-    }
-    session.moisvue = premier.month();
-    session.anvue = premier.year();
-    return {};
 }
 
 int imprimeMois(Session &session)
@@ -78,6 +63,21 @@ int statut(Session &session, const QString &nump, const QString &date)
 }
 
 } // namespace
+
+QString refusMois(Session &session, const QString &texte)
+{
+    const QDate premier = Foncgen::ctod(QStringLiteral("01/") + texte);
+    if (!premier.isValid()) return QStringLiteral("Mois illisible : ") + texte;
+    const EchelleMois echelle(session.datemin, session.datemax);
+    const int position = echelle.position({premier.month(), premier.year()});
+    if (position < echelle.minimum() || position > echelle.maximum()) {
+        return QStringLiteral("Les mois vont du %1 au %2.")
+            .arg(Foncgen::dtoc(session.datemin), Foncgen::dtoc(session.datemax));
+    }
+    session.moisvue = premier.month();
+    session.anvue = premier.year();
+    return {};
+}
 
 int commandeMois(const Appel &appel)
 {

@@ -5,6 +5,7 @@
 #include "foncgen/foncgen.h"
 #include "output/code_print.h"
 #include "output/line_print.h"
+#include "output/practised_print.h"
 #include "output/week_print.h"
 
 namespace velmora::cli
@@ -65,6 +66,17 @@ int imprimeSemaine(Session &session, const Appel &appel)
     return ecrit(session, appel, impressionSemaine(session, choix));
 }
 
+int imprimeHoraires(Session &session, const Appel &appel)
+{
+    const PeriodeLue periode = litPeriode(session, appel.mots[0], appel.mots[1]);
+    if (!periode.refus.isEmpty()) return refus(periode.refus);
+    const HorairesPratiques rapport = horairesPratiques(session, periode.debut, periode.fin);
+    const QString defaut = defautHoraires(rapport);
+    if (!defaut.isEmpty()) return refus(defaut);
+    return ecrit(session, appel,
+                 impressionHoraires(rapport.horaires, periode.debut, periode.fin, session.nometab));
+}
+
 int commandeImprimerLigne(const Appel &appel)
 {
     return surSession(appel, [&](Session &session) { return imprimeLigne(session, appel); });
@@ -78,6 +90,11 @@ int commandeImprimerEnsemble(const Appel &appel)
 int commandeImprimerSemaine(const Appel &appel)
 {
     return surSession(appel, [&](Session &session) { return imprimeSemaine(session, appel); });
+}
+
+int commandeImprimerHoraires(const Appel &appel)
+{
+    return surSession(appel, [&](Session &session) { return imprimeHoraires(session, appel); });
 }
 
 int commandeImprimerCodes(const Appel &appel)
@@ -113,6 +130,13 @@ std::vector<Commande> commandesImpressions()
          1,
          {{"dossier", "NOM"}, {"valorisees"}, {"couleur"}, pdf},
          commandeImprimerSemaine},
+        {"imprimer horaires",
+         "DEBUT FIN",
+         "écrit les horaires pratiqués entre deux dates dans un fichier PDF",
+         2,
+         2,
+         {pdf},
+         commandeImprimerHoraires},
         {"imprimer codes",
          "",
          "écrit la liste des codes absence dans un fichier PDF",

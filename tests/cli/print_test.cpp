@@ -25,6 +25,9 @@ TEST(PrintCommands, WriteTheirPdfWithoutADisplayAndChangeNothing)
          "Planning hebdomadaire",
          "Dossier : " + team},
         {{"codes"}, "Codes absence", ""},
+        {{"horaires", "01/06/2026", "30/06/2026"},
+         "Horaires Pratiqués du 01/06/2026 au 30/06/2026",
+         "Début Fin D.Coup.1 F.Coup.1 D.Coup.2 F.Coup.2 Durée Nb Occur."},
     };
     for (const auto &[words, title, then] : prints) {
         const QString file = folder.filePath(words.join('_').replace('/', '-') + " é.pdf");
@@ -57,6 +60,8 @@ TEST(PrintCommands, RefuseWhatCannotBePrintedAndWriteNoFile)
         {{"ensemble", "01/06/2026", "30/06/2026", "--dossier", "ABSENT"},
          "Le dossier « ABSENT » n'existe pas."},
         {{"semaine", "8/6"}, "Date illisible : 8/6"},
+        {{"horaires", "01/06/2026", "8/6"}, "Date illisible : 8/6"},
+        {{"horaires", "01/12/2027", "31/12/2027"}, "planning non généré"},
         {{"semaine", "08/06/2026", "--dossier", "ABSENT"}, "Le dossier « ABSENT » n'existe pas."},
     };
     for (const auto &[words, reason] : refused) {
