@@ -147,7 +147,9 @@ const std::vector<Commande> &commandes()
 {
     static const std::vector<Commande> toutes = [] {
         std::vector<Commande> reunies;
-        for (const auto famille : {commandesBase, commandesMois, commandesImpressions, commandesExport})
+        for (const auto famille : {commandesBase, commandesMois, commandesLignes, commandesAbsences,
+                                   commandesCodes, commandesControle, commandesCalendrier, commandesDossiers,
+                                   commandesImpressions, commandesExport})
             for (const Commande &commande : famille())
                 reunies.push_back(commande);
         return reunies;

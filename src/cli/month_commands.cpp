@@ -2,6 +2,7 @@
 
 #include "cli/output.h"
 #include "cli/start.h"
+#include "folders/folder_list.h"
 #include "folders/month_choice.h"
 #include "foncgen/foncgen.h"
 #include "month/cells.h"

@@ -1,5 +1,6 @@
 #include "cli/start.h"
 
+#include "folders/folder_list.h"
 #include "session/velmoral.h"
 
 #include <QFileInfo>
@@ -46,10 +47,7 @@ bool placeLigne(Session &session, const QString &nump)
 
 QString refusDossier(Session &session, const QString &dossier)
 {
-    auto &groupe = session.base.groupe;
-    groupe.setIndex("groupegn");
-    if (dossier.isEmpty() || groupe.seek(store::Cmp::Eq, {dossier, 0})) return {};
-    return QStringLiteral("Le dossier « %1 » n'existe pas.").arg(dossier);
+    return dossier.isEmpty() || placedossier(session, dossier) ? QString() : dossierInconnu(dossier);
 }
 
 QString ligneInconnue(const QString &nump)
@@ -60,6 +58,16 @@ QString ligneInconnue(const QString &nump)
 QString dateIllisible(const QString &date)
 {
     return QStringLiteral("Date illisible : ") + date;
+}
+
+QString dossierInconnu(const QString &nom)
+{
+    return QStringLiteral("Le dossier « %1 » n'existe pas.").arg(nom);
+}
+
+QString tropLong(int longueur, const QString &texte)
+{
+    return QStringLiteral("Le texte « %1 » dépasse %2 caractères.").arg(texte).arg(longueur);
 }
 
 } // namespace velmora::cli

@@ -1,49 +1,79 @@
 #include "folders/folder_list.h"
 
-#include <QScopedValueRollback>
+#include "foncgen/foncgen.h"
+#include "session/batch.h"
+#include "session/guards.h"
 
 namespace velmora
 {
 
+using store::Cmp;
+using store::Status;
+
 namespace
 {
 
-constexpr int lettresDossier = 32;
+constexpr int tete = 0; // `nump` of a head row
+
+/// Deletes the rows of a folder, its head first.
+Status supprime(Session &session, const QString &nom)
+{
+    auto &groupe = session.base.groupe;
+    groupe.setIndex("groupegn");
+    bool trouve = groupe.seek(Cmp::Ge, {nom, tete});
+    while (trouve && groupe.row().groupe == nom) {
+        const Status status = supprgarde(session, groupe);
+        if (!status.ok()) return status;
+        trouve = groupe.next();
+    }
+    return groupe.status();
+}
 
 } // namespace
 
-ListeDossiers::ListeDossiers(Session &session, QWidget *parent)
-    : QListWidget(parent), m_choix(lignesDossiers(session))
+QStringList nomsDossiers(Session &session)
 {
-    setObjectName(QStringLiteral("List1"));
-    setSelectionMode(QAbstractItemView::MultiSelection);
-    setSpacing(fontMetrics().height() / 8);
-    setMinimumWidth(fontMetrics().averageCharWidth() * lettresDossier);
-    addItems(m_choix.lignes());
-    selectionne(m_choix.selligne());
-    connect(this, &QListWidget::itemSelectionChanged, this, &ListeDossiers::clic);
+    QStringList noms;
+    auto tetes =
+        session.base.groupe.range("groupeng", {tete}, {tete}, store::Columns<Dossier>::of(&Dossier::groupe));
+    while (tetes.next())
+        noms << tetes.row().groupe;
+    return noms;
 }
 
-void ListeDossiers::clic()
+bool placedossier(Session &session, const QString &nom)
 {
-    if (!m_pret) return;
-    const QScopedValueRollback enCours(m_pret, false);
-    if (m_choix.clic(lignesChoisies())) emit choisie();
-    selectionne(m_choix.selligne());
+    return placemembre(session, nom, tete);
 }
 
-void ListeDossiers::selectionne(int ligne)
+bool placemembre(Session &session, const QString &nom, int nump)
 {
-    clearSelection();
-    item(ligne)->setSelected(true);
+    auto &groupe = session.base.groupe;
+    groupe.setIndex("groupegn");
+    return groupe.seek(Cmp::Eq, {nom, nump});
 }
 
-QList<bool> ListeDossiers::lignesChoisies() const
+std::vector<Ligne> membres(Session &session, const QString &nom)
 {
-    QList<bool> choisies;
-    for (int ligne = 0; ligne < count(); ++ligne)
-        choisies << item(ligne)->isSelected();
-    return choisies;
+    std::vector<Ligne> lignes;
+    auto &ligmois = session.base.ligmois;
+    ligmois.setIndex("ligmois01");
+    auto rangees = session.base.groupe.range("groupegn", {nom}, {nom});
+    while (rangees.next())
+        if (rangees.row().sel && ligmois.seek(Cmp::Eq, {rangees.row().nump})) lignes.push_back(ligmois.row());
+    return lignes;
+}
+
+QString textemembre(const Ligne &ligne)
+{
+    return ligne.nom + QStringLiteral("  ") + Foncgen::dtoc(ligne.datedeb);
+}
+
+bool supprdossier(Session &session, const QString &nom)
+{
+    const QString question = QStringLiteral("Supprimer le dossier ") + nom + QStringLiteral(" ?");
+    if (!session.host.question(question, QStringLiteral("VELMORA"))) return false;
+    return enLot(session, [&] { return supprime(session, nom); });
 }
 
 } // namespace velmora

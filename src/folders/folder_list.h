@@ -1,35 +1,28 @@
 #pragma once
 
-#include "folders/month_choice.h"
+#include "session/session.h"
 
-#include <QListWidget>
+#include <QStringList>
 
 namespace velmora
 {
 
-/// The list of folders, "Global" first: it would take several rows and is held to one.
-class ListeDossiers : public QListWidget
-{
-    Q_OBJECT
+/// The names of the folders, in order.
+[[nodiscard]] QStringList nomsDossiers(Session &session);
 
-public:
-    explicit ListeDossiers(Session &session, QWidget *parent = nullptr);
+/// Puts `groupe` on the head row of a folder. False when there is none; names compare exactly.
+[[nodiscard]] bool placedossier(Session &session, const QString &nom);
 
-    /// The row chosen, and its folder: empty for "Global".
-    [[nodiscard]] const QString &texte() const { return m_choix.texte(); }
-    [[nodiscard]] QString dossier() const { return m_choix.dossier(); }
+/// Puts `groupe` on the row of a line in a folder.
+[[nodiscard]] bool placemembre(Session &session, const QString &nom, int nump);
 
-signals:
-    /// A click has chosen a row anew.
-    void choisie();
+/// The lines of a folder by number. A member whose line is gone is left out; its row stays.
+[[nodiscard]] std::vector<Ligne> membres(Session &session, const QString &nom);
 
-private:
-    void clic();
-    void selectionne(int ligne);
-    [[nodiscard]] QList<bool> lignesChoisies() const;
+/// A member as the window shows it: name and first date of the line.
+[[nodiscard]] QString textemembre(const Ligne &ligne);
 
-    ChoixDossier m_choix;
-    bool m_pret = true; ///< `pret`: the selection is the user's to change
-};
+/// Deletes a folder with its members once the user confirms. False when it is still there.
+[[nodiscard]] bool supprdossier(Session &session, const QString &nom);
 
 } // namespace velmora

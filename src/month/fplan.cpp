@@ -20,6 +20,7 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QPointer>
 #include <QProgressBar>
 
 #include <chrono>
@@ -155,11 +156,13 @@ void Fplan::relieGrille()
     connect(m_mg, &VueGrille::touche, this, &Fplan::touchePressee);
     connect(m_mg, &VueGrille::suppression, this, [this] {
         positionneLigne();
-        if (jourDeLigne(m_planning)) supprime();
+        if (jourDeLigne(m_planning))
+            supprime();
+        else
+            lanceCycle();
     });
+    connect(m_mg, &VueGrille::sansEffet, this, &Fplan::lanceCycle);
     connect(m_mg, &VueGrille::menuDemande, this, &Fplan::montreMenuGrille);
-    connect(m_code, &SaisieCode::codeTape, this, &Fplan::verifieCode);
-    connect(m_code, &SaisieCode::abandon, this, &Fplan::finitCode);
 }
 
 void Fplan::lanceCycle()
@@ -175,10 +178,12 @@ void Fplan::celluleAtteinte()
 }
 
 /// Puts `ligmois` on the line of the current cell: the refresh cycle may not have run since the last move.
-void Fplan::positionneLigne()
+/// False when the line is gone; `ligmois` then stays where it was.
+bool Fplan::positionneLigne()
 {
     m_session.base.ligmois.setIndex("ligmois01");
-    m_session.base.ligmois.seek(store::Cmp::Eq, {m_planning.grille.numligne(m_planning.curseur.ligne)});
+    return m_session.base.ligmois.seek(store::Cmp::Eq,
+                                       {m_planning.grille.numligne(m_planning.curseur.ligne)});
 }
 
 void Fplan::refaitLigne(int ligne)
@@ -205,6 +210,8 @@ void Fplan::relieMenus()
     m_menus.lie(QStringLiteral("mnudo"), this, [this] { rejoue(refaitop); });
     m_menus.lie(QStringLiteral("mnusup"), this, &Fplan::supprime);
     m_menus.lie(QStringLiteral("mnusais"), this, &Fplan::saisitHeures);
+    relieLignes();
+    relieAbsences();
     relieSorties();
     relieZoom();
     m_menus.lie(QStringLiteral("mnuaid"), this,
@@ -222,7 +229,8 @@ void Fplan::charge()
 {
     m_pgb->setRange(0, compteLignes(m_session, m_planning.periode) + margeProgres);
     m_pgb->setValue(1);
-    const Chargement chargement{.progres = [this](int valeur) { m_pgb->setValue(valeur); }};
+    const Chargement chargement{.progres = [this](int valeur) { m_pgb->setValue(valeur); },
+                                .nouvelleligne = [this] { return ligneDuMoisVide(); }};
     m_mg->hide();
     if (!chargi(m_planning, chargement)) {
         close();
@@ -241,6 +249,17 @@ void Fplan::charge()
 
 void Fplan::rafraichit()
 {
+    // A report keeps the cycle waiting; the month may be gone when it returns.
+    const QPointer<Fplan> vivante(this);
+    cycle(
+        m_planning,
+        [this] {
+            m_date->setText(QStringLiteral("le :") + Foncgen::dtoc(m_planning.dateStatut));
+            m_statut->setText(m_planning.texteStatut);
+            m_statut->setToolTip(m_planning.texteStatut.toHtmlEscaped());
+        },
+        [this] { montreCommandes(); });
+    if (!vivante || m_ferme) return;
     cycle(m_planning);
     m_date->setText(QStringLiteral("le : ") + Foncgen::dtoc(m_planning.dateStatut));
     m_statut->setText(m_planning.texteStatut);
@@ -275,8 +294,6 @@ void Fplan::execute()
 
 void Fplan::saisitHeures()
 {
-    m_timer2.stop();
-    m_timer3.stop();
     const Place place = m_planning.curseur;
     if (!m_planning.grille.estLigne(place.ligne)) return lanceCycle();
     const int nump = m_planning.grille.numligne(place.ligne);
@@ -285,6 +302,8 @@ void Fplan::saisitHeures()
     positionneLigne();
     if (prepareSaisie(m_session, m_planning.grille.lit(place.ligne, Grille::colonneNom).texte, nump,
                       m_planning.date(place.colonne), fin)) {
+        m_timer2.stop();
+        m_timer3.stop();
         m_planning.suivi = false;
         Partielm dialogue(
             m_session,
@@ -304,8 +323,8 @@ void Fplan::copie(bool coupe)
     m_timer2.stop();
     positionneLigne();
     m_planning.pressepapiers.clipcoupe = coupe;
-    clipcopie(m_planning);
-    emit tipChanged(QStringLiteral("Coller"), m_planning.pressepapiers.infobulle);
+    clipcopie(m_planning,
+              [this] { emit tipChanged(QStringLiteral("Coller"), m_planning.pressepapiers.infobulle); });
     lanceCycle();
 }
 
@@ -351,6 +370,7 @@ void Fplan::touchePressee(const QString &texte)
 void Fplan::commenceCode(const QString &touche)
 {
     const Place place = m_planning.curseur;
+    m_mg->suitCurseur();
     m_planning.suivi = false;
     m_mg->setEnabled(false);
     m_menus.permetMenus(false);
@@ -360,16 +380,6 @@ void Fplan::commenceCode(const QString &touche)
     m_code->commence(m_mg->rectCurseur(), touche,
                      m_planning.grille.lit(place.ligne, Grille::colonneNom).texte +
                          QStringLiteral("  à dater ") + Foncgen::dtoc(m_planning.date(place.colonne)));
-}
-
-void Fplan::verifieCode(const QString &code)
-{
-    if (cherchecode(m_session, code)) {
-        m_session.abscode = code;
-        return finitCode();
-    }
-    m_session.host.message(QStringLiteral("code Absence non autorisé ou erroné!"), titre);
-    m_code->recommence();
 }
 
 void Fplan::finitCode()
@@ -391,12 +401,15 @@ void Fplan::choisitTotaux(bool centiemes)
 
 bool Fplan::stretchColumns(int twips)
 {
-    return etireColonnes(m_planning.grille, twips);
+    const bool etirees = etireColonnes(m_planning.grille, twips);
+    m_code->place(m_mg->rectCurseur());
+    return etirees;
 }
 
 void Fplan::stretchRows(int twips)
 {
     etireLignes(m_planning.grille, twips);
+    m_code->place(m_mg->rectCurseur());
 }
 
 void Fplan::closeEvent(QCloseEvent *event)

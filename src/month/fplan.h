@@ -45,6 +45,8 @@ private:
     void construitEntete();
     void relie();
     void relieMenus();
+    void relieLignes();
+    void relieAbsences();
     void relieSorties();
     void relieZoom();
     void relieImpressions();
@@ -59,7 +61,7 @@ private:
     void relieGrille();
     void lanceCycle();
     void celluleAtteinte();
-    void positionneLigne();
+    bool positionneLigne();
     void refaitLigne(int ligne);
 
     void saisitHeures();
@@ -69,10 +71,18 @@ private:
     void rejoue(void (*replay)(Session &));
     void commenceCode(const QString &touche);
     void verifieCode(const QString &code);
+    void saisitAbsence();
     void finitCode();
     void montreMenuGrille(const QPoint &point);
     void choisitTotaux(bool centiemes);
 
+    // Commands on lines.
+    [[nodiscard]] bool demandeLigne();
+    [[nodiscard]] bool ligneDuMoisVide();
+    void ouvreLigne();
+    void surLigne(const std::function<void(const Ligne &)> &commande);
+    template <class Dialogue> [[nodiscard]] bool demande(const Ligne &ligne);
+    void termineLigne();
     [[nodiscard]] QWidget *zoneGrille();
     void choisitZoom(bool zoom);
     void disposeZoom();

@@ -1,6 +1,6 @@
 #include "output/fimpplh.h"
 
-#include "folders/folder_list.h"
+#include "folders/folder_choice.h"
 #include "foncgen/field_wiring.h"
 #include "foncgen/foncgen.h"
 #include "output/week_print.h"

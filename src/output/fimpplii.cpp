@@ -1,6 +1,6 @@
 #include "output/fimpplii.h"
 
-#include "folders/folder_list.h"
+#include "folders/folder_choice.h"
 #include "output/line_print.h"
 #include "output/period_box.h"
 

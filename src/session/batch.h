@@ -95,7 +95,7 @@ private:
     friend class Batch;
 
     void marque();
-    void surChaque(const QString &sql);
+    void surChaque(store::Status (store::Engine::*action)());
 
     Session &m_session;
     BatchStep *m_outer = nullptr;
@@ -131,5 +131,8 @@ private:
 
 /// The disk's question.
 [[nodiscard]] QString questionDisque();
+
+/// Tells that the store failed where another try is not offered.
+void ditEchecDisque(Session &session);
 
 } // namespace velmora
