@@ -4,6 +4,7 @@
 #include "month/fplan.h"
 #include "session/qt_host.h"
 #include "session/velmoral.h"
+#include "workstation/fsauv.h"
 
 #include <QApplication>
 
@@ -41,6 +42,13 @@ private:
     bool m_dit = false;
 };
 
+bool ouvreSauvegarde(Session &session, QWidget *parent)
+{
+    Fsauv fsauv(session, parent);
+    fsauv.exec();
+    return fsauv.rouvertes();
+}
+
 } // namespace
 
 MonthView *nouveauMois(Session &session, QWidget *parent)
@@ -52,6 +60,7 @@ std::unique_ptr<Mdivel> fenetrePrincipale(Session &session)
 {
     Ouvertures ouvertures;
     ouvertures.mois = nouveauMois;
+    ouvertures.sauvegarde = ouvreSauvegarde;
     return std::make_unique<Mdivel>(session, ouvertures);
 }
 

@@ -62,7 +62,7 @@ TEST(CommandLine, TellsEveryCommandInTheHelp)
     const Outcome run = program.run({"--aide"}, {});
     EXPECT_EQ(run.status, 0);
     for (const char *command : {"init", "demo", "mois", "statut", "saisie", "copier", "couper", "supprimer",
-                                "annuler", "refaire", "journal"})
+                                "annuler", "refaire", "journal", "sauvegarde"})
         EXPECT_TRUE(run.out.contains(QStringLiteral("velmora ") + QLatin1String(command))) << command;
 }
 
