@@ -1,5 +1,7 @@
 #include <benchmark/benchmark.h>
 
+#include <QGuiApplication>
+
 #include <cstdio>
 #include <map>
 #include <string>
@@ -47,10 +49,15 @@ constexpr Ratio ratios[]{
     {"opening 60 lines over bare reading", "BM_OpenMonth/60", "BM_BareReading/60"},
     {"opening 996 lines over bare reading", "BM_OpenMonth/996", "BM_BareReading/996"},
     {"refills that one opening is worth", "BM_OpenMonth/996", "BM_RefillLine/996"},
+    {"verdicts of 996 lines over opening", "BM_Verdicts", "BM_OpenMonth/996"},
+    {"opening with controls over opening", "BM_OpenControlled", "BM_OpenMonth/996"},
     {"entry of 31 days over bare writing", "BM_Entry/real_time", "BM_BareWriting/real_time"},
     {"undo of it over bare writing", "BM_Undo/real_time", "BM_BareWriting/real_time"},
     {"redo of it over bare writing", "BM_Redo/real_time", "BM_BareWriting/real_time"},
+    {"set print of 996 pages over the bare texts", "BM_PrintSet", "BM_BareTexts"},
     {"paste of 31 days over bare writing", "BM_Paste/real_time", "BM_BareWriting/real_time"},
+    {"export of 996 lines over bare reading", "BM_Export/real_time", "BM_BareMonth/real_time"},
+    {"practised schedules over bare grouping", "BM_Practised", "BM_BareGrouping"},
 };
 
 } // namespace
@@ -59,6 +66,9 @@ constexpr Ratio ratios[]{
 int main(int argc, char **argv)
 {
     benchmark::Initialize(&argc, argv);
+    // Pages need fonts, and fonts an application.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
     velmora::bench::KeepingReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     for (const auto &[what, measured, reference] : velmora::bench::ratios)

@@ -1,5 +1,6 @@
 #include "cli/start.h"
 
+#include "folders/folder_list.h"
 #include "session/velmoral.h"
 
 #include <QFileInfo>
@@ -44,6 +45,11 @@ bool placeLigne(Session &session, const QString &nump)
     return numero && ligmois.seek(store::Cmp::Eq, {*numero});
 }
 
+QString refusDossier(Session &session, const QString &dossier)
+{
+    return dossier.isEmpty() || placedossier(session, dossier) ? QString() : dossierInconnu(dossier);
+}
+
 QString ligneInconnue(const QString &nump)
 {
     return QStringLiteral("La ligne %1 n'existe pas.").arg(nump);
@@ -52,6 +58,16 @@ QString ligneInconnue(const QString &nump)
 QString dateIllisible(const QString &date)
 {
     return QStringLiteral("Date illisible : ") + date;
+}
+
+QString dossierInconnu(const QString &nom)
+{
+    return QStringLiteral("Le dossier « %1 » n'existe pas.").arg(nom);
+}
+
+QString tropLong(int longueur, const QString &texte)
+{
+    return QStringLiteral("Le texte « %1 » dépasse %2 caractères.").arg(texte).arg(longueur);
 }
 
 } // namespace velmora::cli

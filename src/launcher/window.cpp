@@ -1,7 +1,12 @@
 #include "launcher/window.h"
 
+#include "absences/fcodabs.h"
+#include "calendar/ferie1.h"
+#include "calendar/fparcg.h"
 #include "cli/start.h"
+#include "folders/groupt.h"
 #include "month/fplan.h"
+#include "output/absli.h"
 #include "session/qt_host.h"
 #include "session/velmoral.h"
 #include "workstation/fsauv.h"
@@ -49,6 +54,19 @@ bool ouvreSauvegarde(Session &session, QWidget *parent)
     return fsauv.rouvertes();
 }
 
+void ouvreCodesAbsence(Session &session, QWidget *parent)
+{
+    Fcodabs dialogue(session, ouvreImpressionCodes, parent);
+    dialogue.exec();
+}
+
+/// Shows a window that needs nothing but the session until it closes.
+template <class Fenetre> void montre(Session &session, QWidget *parent)
+{
+    Fenetre fenetre(session, parent);
+    fenetre.exec();
+}
+
 } // namespace
 
 MonthView *nouveauMois(Session &session, QWidget *parent)
@@ -60,6 +78,10 @@ std::unique_ptr<Mdivel> fenetrePrincipale(Session &session)
 {
     Ouvertures ouvertures;
     ouvertures.mois = nouveauMois;
+    ouvertures.codesAbsence = ouvreCodesAbsence;
+    ouvertures.parametres = montre<Fparcg>;
+    ouvertures.dossiers = montre<Groupt>;
+    ouvertures.feries = ouvreferies;
     ouvertures.sauvegarde = ouvreSauvegarde;
     return std::make_unique<Mdivel>(session, ouvertures);
 }

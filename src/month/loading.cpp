@@ -1,6 +1,9 @@
 #include "month/loading.h"
 
+#include "folders/membership.h"
 #include "month/cursor.h"
+#include "month/line_days.h"
+#include "month/line_state.h"
 #include "month/refresh.h"
 #include "month/rows.h"
 #include "session/batch.h"
@@ -121,10 +124,7 @@ int compteLignes(Session &session, const Periode &periode)
 
 bool ligdossier(Session &session, int nump)
 {
-    if (session.dossiervue.isEmpty()) return true;
-    auto &groupe = session.base.groupe;
-    groupe.setIndex("groupeng");
-    return groupe.seek(store::Cmp::Eq, {nump, session.dossiervue});
+    return dansDossier(session, nump, session.dossiervue);
 }
 
 void chargeligne(Planning &planning, const Ligne &ligne)
@@ -134,8 +134,10 @@ void chargeligne(Planning &planning, const Ligne &ligne)
     grille.ecrit(rangee, Grille::colonneNom, ligne.nom);
     grille.fixeNumligne(rangee, ligne.nump);
     marqueferme(planning, ligne, rangee);
-    sommeavant(planning, ligne.nump, rangee);
-    rempligne(planning, ligne.nump, rangee);
+    const SuiteJours jours = joursDeLaGrille(planning, ligne);
+    sommeavant(planning, jours, rangee);
+    rempligne(planning, ligne.nump, jours, rangee);
+    marqueControles(planning, ligne, rangee, jours);
 }
 
 bool chargi(Planning &planning, const Chargement &chargement)
@@ -145,10 +147,13 @@ bool chargi(Planning &planning, const Chargement &chargement)
         planning.suivi = false;
         planning.surbrillance = {};
         planning.lecture = {};
+        planning.controlpresent = false;
         if (!peuple(planning, chargement)) {
             if (!planning.lecture.ok()) ditErreurBase(planning);
             return false;
         }
+        // The verdicts leave the set of today selected.
+        if (planning.controlpresent) jeuaudate(planning.session, planning.session.host.today());
         planning.curseur = {Grille::lignesFixes, colonneDepart(planning)};
         planning.colprec = planning.curseur.colonne;
         planning.rowprec = planning.curseur.ligne;

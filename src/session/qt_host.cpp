@@ -1,9 +1,13 @@
 #include "session/qt_host.h"
 
+#include "session/long_message.h"
+
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QMimeDatabase>
+#include <QProcess>
 #include <QPushButton>
 
 #include <cstdlib>
@@ -13,6 +17,8 @@ namespace velmora
 
 namespace
 {
+
+constexpr int longestAnswer = 3000; // of the desktop, in milliseconds
 
 /// A box as the system's messages look: plain text, so that what a user has typed can't be read as markup.
 void prepare(QMessageBox &box, QMessageBox::Icon icon, const QString &text, const QString &title)
@@ -27,6 +33,10 @@ void prepare(QMessageBox &box, QMessageBox::Icon icon, const QString &text, cons
 
 void QtHost::message(const QString &text, const QString &title)
 {
+    if (text.count(QLatin1Char('\n')) > MessageLong::lignesMaxi) {
+        MessageLong(text, title, QApplication::activeWindow()).exec();
+        return;
+    }
     QMessageBox box(QApplication::activeWindow());
     prepare(box, QMessageBox::Information, text, title);
     box.addButton(QMessageBox::Ok);
@@ -61,9 +71,12 @@ QDateTime QtHost::now() const
     return {m_options.today.value_or(machine.date()), machine.time()};
 }
 
-void QtHost::open(const QString &target)
+bool QtHost::open(const QString &target)
 {
-    QDesktopServices::openUrl(addressOf(target));
+    const QUrl address = addressOf(target);
+    // The desktop's opener answers before it has looked for a program, so the question comes first.
+    if (address.isLocalFile() && !hasProgram(target)) return false;
+    return QDesktopServices::openUrl(address);
 }
 
 void QtHost::endProcess()
@@ -75,6 +88,15 @@ QUrl addressOf(const QString &target)
 {
     const QFileInfo file(target);
     return file.exists() ? QUrl::fromLocalFile(file.absoluteFilePath()) : QUrl(target);
+}
+
+bool hasProgram(const QString &file)
+{
+    const QString kind = QMimeDatabase().mimeTypeForFile(file, QMimeDatabase::MatchExtension).name();
+    QProcess asked;
+    asked.start(QStringLiteral("xdg-mime"), {QStringLiteral("query"), QStringLiteral("default"), kind});
+    if (!asked.waitForFinished(longestAnswer) || asked.exitStatus() != QProcess::NormalExit) return true;
+    return asked.exitCode() != 0 || !asked.readAllStandardOutput().trimmed().isEmpty();
 }
 
 } // namespace velmora

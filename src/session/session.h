@@ -52,8 +52,9 @@ struct Session {
     int anvue = 0;
     int choixmoisdebut = 0; ///< 1 makes the open-month dialog start in January; no command sets it
     QString dossiervue;     ///< folder that filters the lines; empty for all
-    bool modeajout = false;
-    QString nometab; ///< name of the establishment, once a dialog has set it
+    bool modeajout = false; ///< an entry dialog adds, rather than modify
+    QString dossiersel;     ///< folder that the dialog of a folder is to change
+    QString nometab;        ///< name of the establishment, once a dialog has set it
     Affichage affichage;
 
     bool dlgvalide = false; ///< the last modal dialog ended by its confirm command
@@ -64,12 +65,21 @@ struct Session {
     QString saisnom;
     float saisligne = 0;
 
-    QString abscode; ///< code typed for an absence entry
+    // What the absence entry is given. The day entry's values keep their own place.
+    QString absdebut;   ///< first day
+    QString absreprise; ///< day of return; an entry leaves the last day of its absence
+    QString abscode;    ///< code typed in the month, as the codes hold it, or empty
+    int absligne = 0;   ///< `nump`
+    QString absnom;     ///< name of the line
 
     // What the print and export dialogs are given; each command has its own roles for them.
     QDate impdate;
     QDate impdeb;
     QDate impfin;
+
+    // What prints go out with, once chosen; empty for the defaults.
+    QString imprimante;
+    QString policeimp;
 
     // State of the journal's ring.
     int nblog = 30;

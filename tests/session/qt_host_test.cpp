@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -49,6 +50,22 @@ TEST(QtHostTest, WhatAUserTypedIsNotReadAsMarkup)
     host.message("<b>Équipe</b>", "VELMORA");
 }
 
+TEST(QtHostTest, ALongMessageScrollsOnASmallScreenAndEnterOrEscapeEndIt)
+{
+    const QString text = QStringLiteral("Défaut Repos Hebdo\n").repeated(200);
+    for (const int key : {Qt::Key_Return, Qt::Key_Escape}) {
+        QtHost host;
+        onModal([&](QWidget &box) {
+            EXPECT_EQ(box.windowTitle(), "Velmora");
+            EXPECT_LE(box.height(), 700);
+            EXPECT_EQ(control<QPlainTextEdit>(box, "texte").toPlainText(), text);
+            QTest::keyClick(&box, static_cast<Qt::Key>(key));
+            EXPECT_FALSE(box.isVisible());
+        });
+        host.message(text, "Velmora");
+    }
+}
+
 TEST(QtHostTest, AGivenAnswerAsksNobody)
 {
     EXPECT_TRUE(QtHost({.today = {}, .answer = true}).question("?", "velmora"));
@@ -73,6 +90,23 @@ TEST(QtHostTest, ALocalPageOpensByItsWholePath)
     EXPECT_EQ(url.toLocalFile(), QDir::currentPath() + "/page d'aide #1.htm");
     EXPECT_EQ(addressOf("https://aide.velmora.example/sommaire.htm").scheme(), "https");
     QDir::setCurrent(before);
+}
+
+TEST(QtHostTest, ADocumentWithoutAProgramIsKnownBeforehand)
+{
+    const QTemporaryDir folder;
+    const QByteArray before = qgetenv("PATH");
+    qputenv("PATH", folder.path().toLocal8Bit());
+    EXPECT_TRUE(hasProgram("Planning.xlsx")) << "the desktop can't be asked";
+    // The desktop's own tool answers with the name of a program, or with nothing.
+    QFile tool(folder.filePath("xdg-mime"));
+    ASSERT_TRUE(tool.open(QIODevice::WriteOnly));
+    tool.write("#!/bin/sh\n[ \"$1 $2 ${3##*.}\" = 'query default sheet' ] && echo calc.desktop\nexit 0\n");
+    tool.close();
+    ASSERT_TRUE(tool.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+    EXPECT_TRUE(hasProgram("Planning.xlsx"));
+    EXPECT_FALSE(hasProgram("Planning.txt"));
+    qputenv("PATH", before);
 }
 
 TEST(QtHostDeathTest, EndOfTheProcessRunsNoCleanUp)
