@@ -149,7 +149,7 @@ const std::vector<Commande> &commandes()
         std::vector<Commande> reunies;
         for (const auto famille : {commandesBase, commandesMois, commandesLignes, commandesAbsences,
                                    commandesCodes, commandesControle, commandesCalendrier, commandesDossiers,
-                                   commandesImpressions, commandesExport})
+                                   commandesImpressions, commandesExport, commandesSauvegarde})
             for (const Commande &commande : famille())
                 reunies.push_back(commande);
         return reunies;

@@ -16,5 +16,6 @@ std::vector<Commande> commandesCalendrier();
 std::vector<Commande> commandesDossiers();
 std::vector<Commande> commandesImpressions();
 std::vector<Commande> commandesExport();
+std::vector<Commande> commandesSauvegarde();
 
 } // namespace velmora::cli

@@ -1,11 +1,10 @@
 #include "store/repair.h"
 
 #include "store/databases.h"
+#include "store/file_replacement.h"
 
 #include <QFile>
 #include <QFileInfo>
-
-#include <filesystem>
 
 namespace velmora::store
 {
@@ -105,18 +104,6 @@ Status salvageInto(Engine &damaged, const QString &target)
     if (status.ok()) status = dropHeadlessRing(engine);
     if (status.ok()) status = engine.commit();
     return status;
-}
-
-/// Puts a file in the place of another, whole or not at all. An unfinished transaction of the old content
-/// goes with it.
-Status replaceFile(const QString &source, const QString &target)
-{
-    std::error_code error;
-    std::filesystem::rename(QFile::encodeName(source).toStdString(), QFile::encodeName(target).toStdString(),
-                            error);
-    if (error) return {Status::Code::Io, QString::fromStdString(error.message())};
-    QFile::remove(target + QStringLiteral("-journal"));
-    return {};
 }
 
 } // namespace

@@ -90,7 +90,8 @@ TEST(CommandLine, TellsEveryCommandInTheHelp)
                                 "imprimer ligne",
                                 "imprimer ensemble",
                                 "imprimer semaine",
-                                "imprimer codes"})
+                                "imprimer codes",
+                                "sauvegarde"})
         EXPECT_TRUE(run.out.contains(QStringLiteral("velmora ") + QLatin1String(command))) << command;
 }
 
