@@ -3,16 +3,12 @@
 #include <QFile>
 
 #include <algorithm>
-#include <chrono>
 
 namespace velmora::store
 {
 
 namespace
 {
-
-// A workstation's second session must hear soon that the journal is taken.
-constexpr std::chrono::milliseconds journalWait{300};
 
 /// Reads each table's columns once, so that a missing one is known at the opening.
 Status checkTables(Engine &engine, const std::vector<const Schema *> &schemas)
