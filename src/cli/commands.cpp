@@ -147,7 +147,7 @@ const std::vector<Commande> &commandes()
 {
     static const std::vector<Commande> toutes = [] {
         std::vector<Commande> reunies;
-        for (const auto famille : {commandesBase, commandesMois, commandesVerification})
+        for (const auto famille : {commandesBase, commandesMois, commandesControle, commandesVerification})
             for (const Commande &commande : famille())
                 reunies.push_back(commande);
         return reunies;

@@ -69,6 +69,7 @@ struct Planning {
     int colonneGauche = Grille::colonnesFixes; ///< first day column in view
     Surbrillance surbrillance;
     bool rapportdemande = false; ///< the current line's labour report was asked for; the next refresh answers
+    bool controlpresent = false; ///< a line of the grid has controls: the column of states is open
     QString texteStatut;         ///< status text of the current cell
     QDate dateStatut;
     EtatCommandes commandes;

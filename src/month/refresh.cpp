@@ -2,7 +2,10 @@
 
 #include "month/cells.h"
 #include "month/highlight.h"
+#include "month/line_state.h"
 #include "session/records.h"
+
+#include <utility>
 
 namespace velmora
 {
@@ -41,6 +44,27 @@ void commandesCellule(Planning &planning, const Ligne &ligne)
     if (!planning.pressepapiers.tient(session)) etat.coller = false;
 }
 
+/// The cycle but for the report. Returns the line that the row shows, or stands for when it is gone.
+Ligne suitCurseur(Planning &planning, const std::function<void()> &montreStatut)
+{
+    const TravailGrille travail(planning);
+    const Place place = planning.curseur;
+    const int nump = planning.grille.numligne(place.ligne);
+    planning.dateStatut = planning.date(place.colonne);
+    planning.texteStatut = textestatut(planning.session, nump, planning.dateStatut);
+    if (montreStatut) montreStatut();
+    Ligne ligne = ligneCourante(planning);
+    planning.commandes.fermerLigne = ligneOuverte(ligne);
+    planning.commandes.reouvrirLigne = !planning.commandes.fermerLigne;
+    deplaceSurbrillance(planning);
+    commandesCellule(planning, ligne);
+    majcommandes(planning);
+    planning.commandes.ligneCourante = planning.grille.lit(place.ligne, Grille::colonneNom).texte;
+    planning.commandes.renommerLigne = true;
+    ligne.nump = nump;
+    return ligne;
+}
+
 } // namespace
 
 void ditErreurBase(const Planning &planning)
@@ -64,22 +88,10 @@ void majcommandes(Planning &planning)
 void cycle(Planning &planning, const std::function<void()> &montreStatut)
 {
     planning.suivi = true;
-    const TravailGrille travail(planning);
-    const Place place = planning.curseur;
-    if (!planning.grille.estLigne(place.ligne)) return;
-    const int nump = planning.grille.numligne(place.ligne);
-    planning.dateStatut = planning.date(place.colonne);
-    planning.texteStatut = textestatut(planning.session, nump, planning.dateStatut);
-    if (montreStatut) montreStatut();
-    const Ligne &ligne = ligneCourante(planning);
-    planning.commandes.fermerLigne = ligneOuverte(ligne);
-    planning.commandes.reouvrirLigne = !planning.commandes.fermerLigne;
-    deplaceSurbrillance(planning);
-    commandesCellule(planning, ligne);
-    majcommandes(planning);
-    planning.commandes.ligneCourante = planning.grille.lit(place.ligne, Grille::colonneNom).texte;
-    planning.commandes.renommerLigne = true;
-    planning.rapportdemande = false;
+    if (!planning.grille.estLigne(planning.curseur.ligne)) return;
+    const Ligne ligne = suitCurseur(planning, montreStatut);
+    // The grid draws again: the report stands over the row that it is about.
+    if (std::exchange(planning.rapportdemande, false)) montreRapport(planning, ligne);
 }
 
 } // namespace velmora

@@ -12,7 +12,8 @@ namespace velmora
 void majcommandes(Planning &planning);
 
 /// The refresh cycle around the current cell: reads its line, writes the status text, moves the highlight and
-/// decides which commands are open. `montreStatut` shows the status text, before anything is said.
+/// decides which commands are open; then shows the line's report if it was asked for. `montreStatut` shows
+/// the status text, before anything is said.
 void cycle(Planning &planning, const std::function<void()> &montreStatut = {});
 
 /// Tells that the tables can't be read.

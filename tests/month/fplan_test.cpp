@@ -62,6 +62,32 @@ TEST_F(FplanTest, AClickOnANameChangesTheLineAndKeepsTheColumn)
     EXPECT_EQ(planning().curseur.colonne, before);
 }
 
+TEST_F(FplanTest, AClickOnANameOrItsMarkShowsTheReportOfALineWithControls)
+{
+    auto &ligmois = session.base.ligmois;
+    ASSERT_TRUE(ligmois.first());
+    ASSERT_TRUE(ligmois.edit().ok());
+    ligmois.values().bcontrolr = true;
+    ligmois.values().nrep = 16;
+    ASSERT_TRUE(ligmois.update().ok());
+    openMonth();
+    QHeaderView *const names = grid()->verticalHeader();
+    QString report = QStringLiteral("        ANNE\n");
+    for (QDate monday = planning().periode.debgrille; monday <= planning().periode.fingrille.addDays(1);
+         monday = monday.addDays(7))
+        report += QStringLiteral("\nDéfaut Repos Hebdo du %1 au %2\n")
+                      .arg(Foncgen::dtoc(monday), Foncgen::dtoc(monday.addDays(14)));
+    for (const int x : {5, names->width() - 3}) {
+        station.host.expectMessage(report);
+        QTest::mouseClick(names->viewport(), Qt::LeftButton, {}, {x, grid()->rowViewportPosition(0) + 4});
+        settle();
+    }
+    QTest::mouseClick(names->viewport(), Qt::LeftButton, {}, {5, grid()->rowViewportPosition(1) + 4});
+    settle();
+    EXPECT_EQ(planning().curseur.ligne, 4);
+    EXPECT_EQ(planning().grille.lit(3, Grille::colonneEtat).texte, QStringLiteral("Pb"));
+}
+
 TEST_F(FplanTest, ADragSelectsDaysOfOneLineAndAMoveGivesTheirColoursBack)
 {
     openMonth();
