@@ -123,7 +123,8 @@ QString horsNature(const Column &column)
     case Nature::Real:
         return QStringLiteral("typeof(%1) NOT IN ('real', 'integer', 'null')").arg(column.name);
     case Nature::Text: return QStringLiteral("typeof(%1) NOT IN ('text', 'null')").arg(column.name);
-    case Nature::Date: return QStringLiteral("%1 <> '' AND %1 IS NOT date(%1)").arg(column.name);
+    // The modifier makes 31 February another day.
+    case Nature::Date: return QStringLiteral("%1 <> '' AND %1 IS NOT date(%1, '+0 days')").arg(column.name);
     case Nature::Moment: return QStringLiteral("%1 <> '' AND datetime(%1) IS NULL").arg(column.name);
     }
     return {};
@@ -136,6 +137,7 @@ QString nomNature(Nature nature)
     case Nature::Truth: return QStringLiteral("les valeurs vrai (-1) et faux (0)");
     case Nature::Real: return QStringLiteral("un nombre");
     case Nature::Text: return QStringLiteral("un texte");
+    // The modifier makes 31 February another day.
     case Nature::Date: return QStringLiteral("une date");
     case Nature::Moment: return QStringLiteral("une date et une heure");
     }

@@ -99,7 +99,7 @@ const Breach breaches[] = {
     {true, "DELETE FROM logop WHERE numop = 30", "l'anneau compte 30 rangées au lieu de 31."},
     {true, "UPDATE logop SET numop = 31 WHERE numop = 30", "l'anneau a une rangée 31."},
     {true, "UPDATE logop SET valop = -1 WHERE numop = 0", "la tête de l'anneau n'en est pas une (0 op"},
-    {true, "UPDATE logop SET ordop = 60 WHERE numop = 29",
+    {true, "UPDATE logop SET ordop = (SELECT ordop FROM logop WHERE numop = 30) WHERE numop = 29",
      "les rangées 29 et 30 de l'anneau ont le même âge"},
     {true, "UPDATE logop SET ordop = 5 WHERE numop = 1", "les âges des opérations en vigueur ne se suivent"},
     {true, "UPDATE logop SET ordop = 1, nivop = 27 WHERE numop = 0",
@@ -123,9 +123,12 @@ TEST_F(VerificationTest, SoundFilesGiveNoFinding)
 
 TEST_F(VerificationTest, EachBreachIsToldInItsSentenceAndNothingIsWritten)
 {
+    const DataFolder folder;
+    fill(folder);
+    const QByteArray sound[] = {contentAt(folder.mainFile()), contentAt(folder.journalFile())};
     for (const Breach &breach : breaches) {
-        const DataFolder folder;
-        fill(folder);
+        replaceContent(folder.mainFile(), sound[0]);
+        replaceContent(folder.journalFile(), sound[1]);
         const QString &file = breach.inJournal ? folder.journalFile() : folder.mainFile();
         ASSERT_TRUE(RawSqlite(file).run(QString::fromUtf8(breach.sql))) << breach.sql;
         const QByteArray before = digest(folder.mainFile()) + digest(folder.journalFile());
@@ -138,7 +141,7 @@ TEST_F(VerificationTest, EachBreachIsToldInItsSentenceAndNothingIsWritten)
         const auto begins = [&](const QString &one) { return one.startsWith(expected); };
         EXPECT_TRUE(std::any_of(said.begin(), said.end(), begins)) << breach.sql << '\n'
                                                                    << said.join(u'\n').toStdString();
-        EXPECT_LE(said.size(), 2) << said.join(u'\n').toStdString();
+        EXPECT_LE(said.size(), 3) << said.join(u'\n').toStdString();
         EXPECT_EQ(digest(folder.mainFile()) + digest(folder.journalFile()), before) << breach.sql;
     }
 }
