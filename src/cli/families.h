@@ -9,6 +9,7 @@ namespace velmora::cli
 std::vector<Commande> commandesBase();
 std::vector<Commande> commandesMois();
 std::vector<Commande> commandesControle();
+std::vector<Commande> commandesLignes();
 std::vector<Commande> commandesVerification();
 
 } // namespace velmora::cli

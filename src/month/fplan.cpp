@@ -209,6 +209,7 @@ void Fplan::relieMenus()
     m_menus.lie(QStringLiteral("mnudo"), this, [this] { rejoue(refaitop); });
     m_menus.lie(QStringLiteral("mnusup"), this, &Fplan::supprime);
     m_menus.lie(QStringLiteral("mnusais"), this, &Fplan::saisitHeures);
+    relieLignes();
     m_menus.lie(QStringLiteral("mnuaid"), this,
                 [this] { ouvreaide(m_session, QStringLiteral("sommaire.htm")); });
     m_menus.lie(QStringLiteral("mnuferm"), this, [this] { close(); });
@@ -223,7 +224,8 @@ void Fplan::charge()
 {
     m_pgb->setRange(0, compteLignes(m_session, m_planning.periode) + margeProgres);
     m_pgb->setValue(1);
-    const Chargement chargement{.progres = [this](int valeur) { m_pgb->setValue(valeur); }};
+    const Chargement chargement{.progres = [this](int valeur) { m_pgb->setValue(valeur); },
+                                .nouvelleligne = [this] { return ligneDuMoisVide(); }};
     m_mg->hide();
     if (!chargi(m_planning, chargement)) {
         close();

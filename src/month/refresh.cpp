@@ -65,6 +65,16 @@ Ligne suitCurseur(Planning &planning, const std::function<void()> &montreStatut)
     return ligne;
 }
 
+/// The last line shown has been closed before the grid's dates: there is nothing for the commands to act on.
+void sansLigne(Planning &planning, const std::function<void()> &montreStatut)
+{
+    planning.texteStatut.clear();
+    if (montreStatut) montreStatut();
+    planning.commandes = {};
+    majcommandes(planning);
+    planning.rapportdemande = false;
+}
+
 } // namespace
 
 void ditErreurBase(const Planning &planning)
@@ -88,7 +98,7 @@ void majcommandes(Planning &planning)
 void cycle(Planning &planning, const std::function<void()> &montreStatut)
 {
     planning.suivi = true;
-    if (!planning.grille.estLigne(planning.curseur.ligne)) return;
+    if (!planning.grille.estLigne(planning.curseur.ligne)) return sansLigne(planning, montreStatut);
     const Ligne ligne = suitCurseur(planning, montreStatut);
     // The grid draws again: the report stands over the row that it is about.
     if (std::exchange(planning.rapportdemande, false)) montreRapport(planning, ligne);

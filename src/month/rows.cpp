@@ -6,6 +6,7 @@
 #include "month/line_days.h"
 #include "month/line_state.h"
 #include "month/refresh.h"
+#include "month/selection.h"
 #include "session/batch.h"
 #include "session/values.h"
 
@@ -284,6 +285,7 @@ void majlignecomplet(Planning &planning, const Ligne &ligne, int rangee)
 void retireRangee(Planning &planning, int rangee)
 {
     const DessinSuspendu dessin(planning.grille);
+    selvide(planning);
     soustotal(planning, rangee);
     planning.grille.retireLigne(rangee);
     ecritTotaux(planning);

@@ -32,8 +32,8 @@ void majligne(Planning &planning, int nump, int rangee);
 /// The same for a line whose dates changed too.
 void majlignecomplet(Planning &planning, const Ligne &ligne, int rangee);
 
-/// Removes a row with its share of the column totals. The highlight, if it was on that row, is forgotten; the
-/// cursor is left to the caller.
+/// Removes a row with its share of the column totals, and the selection. The highlight, if it was on that
+/// row, is forgotten; the cursor is left to the caller.
 void retireRangee(Planning &planning, int rangee);
 
 /// Reloads the rows of the lines that the last undo or redo touched, two at the most.

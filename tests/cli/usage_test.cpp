@@ -33,6 +33,13 @@ TEST(CommandLine, RefusesWrongUsageWithStatus2AndMakesNothing)
         {"couper", "1", "01/06/2026", "--vers", "2", "10/06/2026"},
         {"supprimer", "1", "01/06/2026", "--vers", "2", "10/06/2026"},
         {"verifie", "velmora.mdb"},
+        {"ligne"},
+        {"ligne", "nouvelle", "X"},
+        {"ligne", "controles", "1", "--semaine", "48h99"},
+        {"ligne", "controles", "1", "--repos", "-1h00"},
+        {"ligne", "controles", "1", "--quinzaine", "4"},
+        {"ligne", "controles", "1", "--pause", "100"},
+        {"ligne", "fermer", "1", "01/06/2026", "--6jours"},
     };
     const QByteArray before = program.fingerprint();
     for (const QStringList &words : lines) {
@@ -63,7 +70,7 @@ TEST(CommandLine, TellsEveryCommandInTheHelp)
     const Outcome run = program.run({"--aide"}, {});
     EXPECT_EQ(run.status, 0);
     for (const char *command : {"init", "demo", "mois", "statut", "saisie", "copier", "couper", "supprimer",
-                                "annuler", "refaire", "journal", "verifie"})
+                                "annuler", "refaire", "journal", "verifie", "ligne nouvelle", "ligne liste"})
         EXPECT_TRUE(run.out.contains(QStringLiteral("velmora ") + QLatin1String(command))) << command;
 }
 

@@ -92,6 +92,7 @@ private:
         ++(run.status == 0 ? done : refused);
         return run.status == 0;
     }
+    int ownLine() { return m_lines.keys().at(below(static_cast<int>(m_lines.size()))); }
     static QString text(const QDate &date) { return date.toString(QStringLiteral("dd/MM/yyyy")); }
 
     void command()
@@ -129,7 +130,7 @@ private:
     void absence()
     {
         if (m_lines.isEmpty()) return line();
-        const int nump = (m_lines.cbegin() + below(static_cast<int>(m_lines.size()))).key();
+        const int nump = ownLine();
         const QDate from = QDate(2026, 5, 1).addDays(below(40));
         const QDate back = from.addDays(1 + below(6));
         if (!reported({"absence", QString::number(nump), text(from), text(back), "CP"})) return;
@@ -145,7 +146,7 @@ private:
             if (reported({"ligne", "nouvelle", name, "01/01/2026"}, &nump)) m_lines[nump.toInt()] = name;
             return;
         }
-        const int own = (m_lines.cbegin() + below(static_cast<int>(m_lines.size()))).key();
+        const int own = ownLine();
         if (reported({"ligne", "renommer", QString::number(own), name})) m_lines[own] = name;
     }
     void folder()

@@ -1,6 +1,7 @@
 #include "month/fplan.h"
 
 #include "month/open_form.h"
+#include "support/modal.h"
 
 #include <QLineEdit>
 #include <QMenu>
@@ -254,6 +255,7 @@ TEST_F(FplanTest, AMonthWithoutLinesSaysSoAndCloses)
         QStringLiteral("vous devez ouvrir au moins une ligne de planning pour cette période !"));
     form = std::make_unique<Fplan>(session);
     QSignalSpy closed(form.get(), &MonthView::closed);
+    whenModal([](QWidget &newLine) { QTest::keyClick(&newLine, Qt::Key_Escape); });
     form->show();
     EXPECT_TRUE(closed.wait(2000));
 }

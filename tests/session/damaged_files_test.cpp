@@ -48,7 +48,7 @@ protected:
     void use(Session &session)
     {
         Planning planning(session, 6, 2026);
-        chargi(planning, {});
+        static_cast<void>(chargi(planning, {}));
         session.base.ligmois.setIndex("ligmois01");
         if (session.base.ligmois.seek(store::Cmp::Eq, {1}))
             enterHours(session, 1, {2026, 6, 15}, {2026, 6, 16}, {"7h", "15h"});
