@@ -148,4 +148,4 @@ const std::vector<Commande> &commandes()
     static const std::vector<Commande> toutes = [] {
         std::vector<Commande> reunies;
         for (const auto famille : {commandesBase, commandesMois, commandesControle, commandesLignes,
- commandesVerification})
+                                   commandesAbsences, commandesCodes, commandesVerification})

@@ -1,5 +1,6 @@
 #include "launcher/window.h"
 
+#include "absences/fcodabs.h"
 #include "cli/start.h"
 #include "month/fplan.h"
 #include "session/qt_host.h"
@@ -41,6 +42,12 @@ private:
     bool m_dit = false;
 };
 
+void ouvreCodesAbsence(Session &session, QWidget *parent)
+{
+    Fcodabs dialogue(session, {}, parent);
+    dialogue.exec();
+}
+
 } // namespace
 
 MonthView *nouveauMois(Session &session, QWidget *parent)
@@ -52,6 +59,7 @@ std::unique_ptr<Mdivel> fenetrePrincipale(Session &session)
 {
     Ouvertures ouvertures;
     ouvertures.mois = nouveauMois;
+    ouvertures.codesAbsence = ouvreCodesAbsence;
     return std::make_unique<Mdivel>(session, ouvertures);
 }
 

@@ -162,8 +162,6 @@ void Fplan::relieGrille()
     });
     connect(m_mg, &VueGrille::sansEffet, this, &Fplan::lanceCycle);
     connect(m_mg, &VueGrille::menuDemande, this, &Fplan::montreMenuGrille);
-    connect(m_code, &SaisieCode::codeTape, this, &Fplan::verifieCode);
-    connect(m_code, &SaisieCode::abandon, this, &Fplan::finitCode);
 }
 
 void Fplan::lanceCycle()
@@ -209,6 +207,7 @@ void Fplan::relieMenus()
     m_menus.lie(QStringLiteral("mnudo"), this, [this] { rejoue(refaitop); });
     m_menus.lie(QStringLiteral("mnusup"), this, &Fplan::supprime);
     m_menus.lie(QStringLiteral("mnusais"), this, &Fplan::saisitHeures);
+    relieAbsences();
     relieLignes();
     m_menus.lie(QStringLiteral("mnuaid"), this,
                 [this] { ouvreaide(m_session, QStringLiteral("sommaire.htm")); });
@@ -363,16 +362,6 @@ void Fplan::commenceCode(const QString &touche)
     m_code->commence(m_mg->rectCurseur(), touche,
                      m_planning.grille.lit(place.ligne, Grille::colonneNom).texte +
                          QStringLiteral("  à dater ") + Foncgen::dtoc(m_planning.date(place.colonne)));
-}
-
-void Fplan::verifieCode(const QString &code)
-{
-    if (cherchecode(m_session, code)) {
-        m_session.abscode = code;
-        return finitCode();
-    }
-    m_session.host.message(QStringLiteral("code Absence non autorisé ou erroné!"), titre);
-    m_code->recommence();
 }
 
 void Fplan::finitCode()

@@ -41,6 +41,7 @@ private:
     void construitEntete();
     void relie();
     void relieMenus();
+    void relieAbsences();
     void relieLignes();
     void mesure();
 
@@ -63,6 +64,7 @@ private:
     void rejoue(void (*replay)(Session &));
     void commenceCode(const QString &touche);
     void verifieCode(const QString &code);
+    void saisitAbsence();
     void finitCode();
     void montreMenuGrille(const QPoint &point);
     void choisitTotaux(bool centiemes);
