@@ -8,8 +8,8 @@ build_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     breeze-icon-theme fonts-dejavu-core
 )
-# What the tests drive the program with and read its pages with.
-test_packages=(xvfb xdotool poppler-utils imagemagick)
+# What the tests drive the program with, read its pages with and compare its calendar with.
+test_packages=(xvfb xdotool poppler-utils imagemagick python3 python3-dateutil python3-holidays)
 
 # Prints the packages among the arguments that are not installed.
 missing_packages() {

@@ -1,16 +1,15 @@
 #include "calendar/start_check.h"
 
+#include "calendar/holiday_generation.h"
+
 namespace velmora
 {
 
 StartCheck startCheck(Session &session)
 {
     if (session.base.parcg.isEmpty()) return StartCheck::NeedParametres;
-    auto &ferie = session.base.ferie;
-    ferie.setIndex("ferie01");
-    if (!ferie.last()) return StartCheck::Nothing;
-    const int yearsAhead = ferie.row().datedeb.year() - session.host.today().year();
-    return yearsAhead < 1 ? StartCheck::NeedFeries : StartCheck::Nothing;
+    const bool enough = session.base.ferie.isEmpty() || feriesAJour(session.base, session.host.today());
+    return enough ? StartCheck::Nothing : StartCheck::NeedFeries;
 }
 
 } // namespace velmora

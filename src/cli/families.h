@@ -13,5 +13,7 @@ std::vector<Commande> commandesCodes();
 std::vector<Commande> commandesControle();
 std::vector<Commande> commandesLignes();
 std::vector<Commande> commandesVerification();
+std::vector<Commande> commandesCalendrier();
+std::vector<Commande> commandesDossiers();
 
 } // namespace velmora::cli

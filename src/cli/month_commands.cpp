@@ -2,6 +2,7 @@
 
 #include "cli/output.h"
 #include "cli/start.h"
+#include "folders/folder_list.h"
 #include "folders/month_choice.h"
 #include "foncgen/foncgen.h"
 #include "month/cells.h"
@@ -45,10 +46,7 @@ QString refusMois(Session &session, const QString &texte)
 
 QString refusDossier(Session &session, const QString &dossier)
 {
-    auto &groupe = session.base.groupe;
-    groupe.setIndex("groupegn");
-    if (!dossier.isEmpty() && !groupe.seek(store::Cmp::Eq, {dossier, 0}))
-        return QStringLiteral("Le dossier « %1 » n'existe pas.").arg(dossier);
+    if (!dossier.isEmpty() && !placedossier(session, dossier)) return dossierInconnu(dossier);
     session.dossiervue = dossier;
     return {};
 }

@@ -54,4 +54,14 @@ QString dateIllisible(const QString &date)
     return QStringLiteral("Date illisible : ") + date;
 }
 
+QString dossierInconnu(const QString &nom)
+{
+    return QStringLiteral("Le dossier « %1 » n'existe pas.").arg(nom);
+}
+
+QString tropLong(int longueur, const QString &texte)
+{
+    return QStringLiteral("Le texte « %1 » dépasse %2 caractères.").arg(texte).arg(longueur);
+}
+
 } // namespace velmora::cli

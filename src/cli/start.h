@@ -20,5 +20,7 @@ int surSession(const Appel &appel, const std::function<int(Session &)> &travail)
 // Sentences for words that can't be used.
 [[nodiscard]] QString ligneInconnue(const QString &nump);
 [[nodiscard]] QString dateIllisible(const QString &date);
+[[nodiscard]] QString dossierInconnu(const QString &nom);
+[[nodiscard]] QString tropLong(int longueur, const QString &texte);
 
 } // namespace velmora::cli

@@ -1,5 +1,7 @@
 #include "folders/month_choice.h"
 
+#include "folders/folder_list.h"
+
 namespace velmora
 {
 
@@ -53,12 +55,7 @@ int optionDuMode(int mode)
 
 QStringList lignesDossiers(Session &session)
 {
-    QStringList lignes{dossierGlobal};
-    auto tetes =
-        session.base.groupe.range("groupeng", {0}, {0}, store::Columns<Dossier>::of(&Dossier::groupe));
-    while (tetes.next())
-        lignes << tetes.row().groupe;
-    return lignes;
+    return QStringList{dossierGlobal} + nomsDossiers(session);
 }
 
 bool ChoixDossier::clic(QList<bool> choisies)

@@ -21,14 +21,11 @@ namespace
 constexpr int moisParPage = 12;
 constexpr int lettresDossier = 32;
 
-QLineEdit *affichage(QWidget *parent, const char *nom, const QString &accessible, int chiffres)
+QLineEdit *chiffres(QWidget *parent, const char *nom, const QString &accessible, int nombre)
 {
-    auto *const texte = nomme(new QLineEdit(parent), nom);
-    texte->setReadOnly(true);
-    texte->setFocusPolicy(Qt::NoFocus);
+    auto *const texte = affichage(parent, nom, accessible);
     texte->setAlignment(Qt::AlignCenter);
-    texte->setAccessibleName(accessible);
-    texte->setMaximumWidth(texte->fontMetrics().horizontalAdvance(QString(chiffres + 4, QLatin1Char('0'))));
+    texte->setMaximumWidth(texte->fontMetrics().horizontalAdvance(QString(nombre + 4, QLatin1Char('0'))));
     return texte;
 }
 
@@ -58,9 +55,9 @@ void Smois::construit()
     m_label2->setBuddy(m_list1);
     m_label3 = etiquette(this, "Label3", m_choix.texte());
     m_frame2 = nomme(new QGroupBox(QStringLiteral("Mois à afficher"), this), "Frame2");
-    m_text1 = affichage(m_frame2, "Text1", QStringLiteral("Mois"), 2);
+    m_text1 = chiffres(m_frame2, "Text1", QStringLiteral("Mois"), 2);
     m_label1 = etiquette(m_frame2, "Label1", QStringLiteral("/"));
-    m_text2 = affichage(m_frame2, "Text2", QStringLiteral("Année"), 4);
+    m_text2 = chiffres(m_frame2, "Text2", QStringLiteral("Année"), 4);
     m_vs1 = nomme(new QScrollBar(Qt::Horizontal, m_frame2), "VS1");
     m_vs1->setFocusPolicy(Qt::StrongFocus);
     m_vs1->setPageStep(moisParPage);

@@ -1,7 +1,10 @@
 #include "launcher/window.h"
 
 #include "absences/fcodabs.h"
+#include "calendar/ferie1.h"
+#include "calendar/fparcg.h"
 #include "cli/start.h"
+#include "folders/groupt.h"
 #include "month/fplan.h"
 #include "session/qt_host.h"
 #include "session/velmoral.h"
@@ -48,6 +51,13 @@ void ouvreCodesAbsence(Session &session, QWidget *parent)
     dialogue.exec();
 }
 
+/// Shows a window that needs nothing but the session until it closes.
+template <class Fenetre> void montre(Session &session, QWidget *parent)
+{
+    Fenetre fenetre(session, parent);
+    fenetre.exec();
+}
+
 } // namespace
 
 MonthView *nouveauMois(Session &session, QWidget *parent)
@@ -60,6 +70,9 @@ std::unique_ptr<Mdivel> fenetrePrincipale(Session &session)
     Ouvertures ouvertures;
     ouvertures.mois = nouveauMois;
     ouvertures.codesAbsence = ouvreCodesAbsence;
+    ouvertures.parametres = montre<Fparcg>;
+    ouvertures.dossiers = montre<Groupt>;
+    ouvertures.feries = ouvreferies;
     return std::make_unique<Mdivel>(session, ouvertures);
 }
 

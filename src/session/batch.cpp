@@ -181,6 +181,11 @@ QString questionDisque()
     return QStringLiteral("Problème accès disque! réessayer ?");
 }
 
+void ditEchecDisque(Session &session)
+{
+    session.host.message(QStringLiteral("Problème accès disque!"), titre);
+}
+
 namespace
 {
 
@@ -212,7 +217,7 @@ bool enLot(Session &session, const std::function<Status()> &work, Batch::Kind ki
         session.base.cancelUpdates(tenues);
         const Batch::Pause released(session.batch);
         if (!reessayable(status.code())) {
-            session.host.message(QStringLiteral("Problème accès disque!"), titre);
+            ditEchecDisque(session);
             return false;
         }
         const bool busy = status.code() == Status::Code::Busy;

@@ -132,4 +132,7 @@ private:
 /// The disk's question.
 [[nodiscard]] QString questionDisque();
 
+/// Tells that the store failed where another try is not offered.
+void ditEchecDisque(Session &session);
+
 } // namespace velmora

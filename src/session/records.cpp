@@ -33,9 +33,9 @@ bool jourferie(Session &session, const QDate &date)
     return ferie.seek(Cmp::Eq, {date});
 }
 
-void jeuaudate(Session &session, const QDate &date)
+void jeuaudate(store::MainDatabase &base, const QDate &date)
 {
-    auto &parcg = session.base.parcg;
+    auto &parcg = base.parcg;
     parcg.setIndex("parcg01");
     if (!parcg.seek(Cmp::Le, {date})) parcg.first();
 }

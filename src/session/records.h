@@ -12,7 +12,11 @@ namespace velmora
 [[nodiscard]] bool jourferie(Session &session, const QDate &date);
 
 /// Puts `parcg` on the set in force at the date, or failing that on the oldest set.
-void jeuaudate(Session &session, const QDate &date);
+void jeuaudate(store::MainDatabase &base, const QDate &date);
+inline void jeuaudate(Session &session, const QDate &date)
+{
+    jeuaudate(session.base, date);
+}
 
 /// Deletes every row of a table, from the first to the end. A row that can't be deleted is passed.
 /// A walk that fails to step on ends.

@@ -52,8 +52,9 @@ struct Session {
     int anvue = 0;
     int choixmoisdebut = 0; ///< 1 makes the open-month dialog start in January; no command sets it
     QString dossiervue;     ///< folder that filters the lines; empty for all
-    bool modeajout = false;
-    QString nometab; ///< name of the establishment, once a dialog has set it
+    bool modeajout = false; ///< an entry dialog adds, rather than modify
+    QString dossiersel;     ///< folder that the dialog of a folder is to change
+    QString nometab;        ///< name of the establishment, once a dialog has set it
     Affichage affichage;
 
     bool dlgvalide = false; ///< the last modal dialog ended by its confirm command

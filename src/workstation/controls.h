@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 
 namespace velmora
@@ -20,6 +21,16 @@ inline QLabel *etiquette(QWidget *parent, const char *nom, const QString &texte)
     auto *const label = nomme(new QLabel(texte, parent), nom);
     label->setTextFormat(Qt::PlainText);
     return label;
+}
+
+/// A field that only shows a text.
+inline QLineEdit *affichage(QWidget *parent, const char *nom, const QString &accessible)
+{
+    auto *const texte = nomme(new QLineEdit(parent), nom);
+    texte->setReadOnly(true);
+    texte->setFocusPolicy(Qt::NoFocus);
+    texte->setAccessibleName(accessible);
+    return texte;
 }
 
 inline QPushButton *bouton(QWidget *parent, const char *nom, const QString &texte)

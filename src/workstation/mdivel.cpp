@@ -103,7 +103,7 @@ void Mdivel::mnucodabs()
 
 void Mdivel::mnuferie()
 {
-    if (m_ouvertures.feries) m_ouvertures.feries(m_session, this, m_session.host.today(), 0);
+    if (m_ouvertures.feries) m_ouvertures.feries(m_session, this, {false, m_session.host.today()});
 }
 
 void Mdivel::mnuferm()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "calendar/holiday_generation.h"
 #include "month/month_view.h"
 #include "session/session.h"
 #include "workstation/slider_note.h"
@@ -29,7 +30,7 @@ struct Ouvertures {
     Ouverture parametres;
     Ouverture dossiers;
     Ouverture codesAbsence;
-    std::function<void(Session &, QWidget *parent, const QDate &date, int mois)> feries;
+    std::function<void(Session &, QWidget *parent, const DemandeFeries &demande)> feries;
     /// False when the databases could not be opened again.
     std::function<bool(Session &, QWidget *parent)> sauvegarde;
 };

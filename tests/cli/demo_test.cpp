@@ -1,6 +1,5 @@
 #include "cli/program.h"
 
-#include "cli/demo/holidays.h"
 #include "session/day_hours.h"
 
 using namespace velmora;
@@ -96,15 +95,4 @@ TEST_F(DemoData, StoresTheWorkedMinutesThatTheGridComputes)
         ASSERT_EQ(horaireDuJour(days.row()).minutes, days.row().heurtrav) << days.row().nump;
     }
     EXPECT_GT(count, 16 * 30);
-}
-
-TEST(DemoHolidays, LetTheLaterRuleHaveASharedDate)
-{
-    const auto days = cli::demo::feriesMetropole(2008);
-    EXPECT_EQ(days.size(), 10U);
-    for (const JourFerie &day : days) {
-        if (day.datedeb == QDate(2008, 5, 1)) {
-            EXPECT_EQ(day.lib, QStringLiteral("Ascension"));
-        }
-    }
 }

@@ -154,8 +154,8 @@ TEST_F(MdivelTest, EntriesOpenTheirWindowAndAreOffWithoutOne)
     QStringList opened;
     ouvertures.parametres = [&](Session &, QWidget *) { opened << "parametres"; };
     ouvertures.codesAbsence = [&](Session &, QWidget *) { opened << "codes"; };
-    ouvertures.feries = [&](Session &, QWidget *, const QDate &date, int mois) {
-        opened << date.toString(Qt::ISODate) + '/' + QString::number(mois);
+    ouvertures.feries = [&](Session &, QWidget *, const DemandeFeries &demande) {
+        opened << demande.dateappli.toString(Qt::ISODate) + '/' + QString::number(demande.reinitferie);
     };
     addSet();
     start();
@@ -304,7 +304,10 @@ TEST_F(MdivelTest, StartStaysWhenAParameterSetComesOfTheDialog)
 TEST_F(MdivelTest, StartOpensTheHolidaysThatEndThisYear)
 {
     QList<QDate> asked;
-    ouvertures.feries = [&](Session &, QWidget *, const QDate &date, int) { asked << date; };
+    ouvertures.feries = [&](Session &, QWidget *, const DemandeFeries &demande) {
+        EXPECT_FALSE(demande.reinitferie);
+        asked << demande.dateappli;
+    };
     addSet();
     addHoliday(QDate(2026, 12, 25));
     start();

@@ -1,7 +1,7 @@
 #include "cli/demo/demo.h"
 
+#include "calendar/holiday_generation.h"
 #include "cli/demo/absences.h"
-#include "cli/demo/holidays.h"
 #include "cli/demo/lines.h"
 #include "cli/demo/schedules.h"
 
@@ -32,19 +32,12 @@ std::vector<JeuParam> jeuxParam()
     return {{QDate(2000, 1, 1), 0, 0, QStringLiteral("Résidence Les Tilleuls")}};
 }
 
-std::vector<JourFerie> feries(int annee)
-{
-    std::vector<JourFerie> jours = feriesMetropole(annee);
-    const std::vector<JourFerie> suivants = feriesMetropole(annee + 1);
-    jours.insert(jours.end(), suivants.begin(), suivants.end());
-    return jours;
-}
-
-std::set<QDate> datesDe(const std::vector<JourFerie> &jours)
+std::set<QDate> datesFeriees(store::MainDatabase &base)
 {
     std::set<QDate> dates;
-    for (const JourFerie &jour : jours)
-        dates.insert(jour.datedeb);
+    auto jours = base.ferie.range("ferie01", {}, {});
+    while (jours.next())
+        dates.insert(jours.row().datedeb);
     return dates;
 }
 
@@ -89,12 +82,11 @@ QDate Demo::fin() const
 Status remplit(store::MainDatabase &base, const Demo &demo)
 {
     Hasard hasard(demo.graine);
-    const auto jours = feries(demo.aujourdhui.year());
     Status status = ajoute(base.parcg, jeuxParam());
-    if (status.ok()) status = ajoute(base.ferie, jours);
+    if (status.ok()) status = genereferies(base, demo.aujourdhui, {true, demo.aujourdhui});
     if (status.ok()) status = ajoute(base.codabs, codesAbsence());
     if (status.ok()) status = ajoute(base.groupe, tetesDossiers());
-    if (status.ok()) status = ajouteLignes(base, demo, hasard, datesDe(jours));
+    if (status.ok()) status = ajouteLignes(base, demo, hasard, datesFeriees(base));
     return status;
 }
 

@@ -1,0 +1,118 @@
+#include "folders/composition.h"
+
+#include "folders/folder_list.h"
+#include "foncgen/foncgen.h"
+#include "session/batch.h"
+#include "session/guards.h"
+
+#include <algorithm>
+
+namespace velmora
+{
+
+using store::Cmp;
+using store::Status;
+
+namespace
+{
+
+const QString titreDossier = QStringLiteral("Velmora");
+
+} // namespace
+
+CompositionDossier::CompositionDossier(Session &session) : m_session(session)
+{
+    if (session.modeajout) return;
+    m_designation = session.dossiersel;
+    m_nom = m_designation.trimmed();
+    auto &groupe = session.base.groupe;
+    const bool presente =
+        placedossier(session, m_designation) || enLot(session, [this] { return ajouteTete(m_designation); });
+    if (presente) m_tete = groupe.bookmark();
+}
+
+/// Adds the head row and makes it current.
+Status CompositionDossier::ajouteTete(const QString &nom)
+{
+    auto &groupe = m_session.base.groupe;
+    Status status = ajoutgarde(m_session, groupe);
+    if (!status.ok()) return status;
+    groupe.values().groupe = nom;
+    status = groupe.update();
+    if (!status.ok()) return status;
+    groupe.goTo(groupe.lastModified());
+    m_tete = groupe.bookmark();
+    return groupe.status();
+}
+
+bool CompositionDossier::remplit()
+{
+    m_lignes.clear();
+    auto lignes = m_session.base.ligmois.range("ligmois02", {}, {});
+    while (lignes.next()) {
+        const Ligne &ligne = lignes.row();
+        const bool membre = !m_session.modeajout && placemembre(m_session, m_nom, ligne.nump) &&
+                            m_session.base.groupe.row().sel;
+        m_lignes.push_back({ligne.nump, ligne.nom + QLatin1Char(' ') + Foncgen::dtoc(ligne.datedeb), membre});
+    }
+    if (!m_lignes.empty()) return true;
+    m_session.host.message(QStringLiteral("vous devez saisir les lignes préalablement"), titreDossier);
+    return false;
+}
+
+bool CompositionDossier::valide(const QString &texte) const
+{
+    Host &host = m_session.host;
+    const QString nom = texte.trimmed();
+    if (m_session.modeajout && nom.isEmpty()) {
+        host.message(QStringLiteral("donner une appellation au dossier !"), titreDossier);
+        return false;
+    }
+    if (m_session.modeajout && placedossier(m_session, nom)) {
+        host.message(QStringLiteral("dossier déjà défini - changez la désignation !"), titreDossier);
+        return false;
+    }
+    const bool garni = std::any_of(m_lignes.begin(), m_lignes.end(),
+                                   [](const LigneCochable &ligne) { return ligne.cochee; });
+    return garni || host.question(QStringLiteral(" aucune ligne n'est sélectée : continuer ?"), titreDossier);
+}
+
+bool CompositionDossier::enregistre(const QString &texte)
+{
+    if (!enLot(m_session, [&] { return ecrit(texte); })) return false;
+    m_session.base.groupe.goTo(m_tete);
+    return true;
+}
+
+Status CompositionDossier::ecrit(const QString &texte)
+{
+    Status status;
+    if (m_session.modeajout) {
+        // The head row keeps the blanks around the name and the member rows don't: this is wanted.
+        m_nom = texte.trimmed();
+        status = ajouteTete(texte);
+    }
+    for (const LigneCochable &ligne : m_lignes)
+        if (status.ok()) status = ecritLigne(ligne);
+    return status;
+}
+
+Status CompositionDossier::ecritLigne(const LigneCochable &ligne)
+{
+    auto &ligmois = m_session.base.ligmois;
+    ligmois.setIndex("ligmois01");
+    return ligmois.seek(Cmp::Eq, {ligne.nump}) ? ecritMembre(ligne.nump, ligne.cochee) : ligmois.status();
+}
+
+Status CompositionDossier::ecritMembre(int nump, bool membre)
+{
+    auto &groupe = m_session.base.groupe;
+    const bool present = placemembre(m_session, m_nom, nump);
+    if (!membre) return present ? supprgarde(m_session, groupe) : groupe.status();
+    const Status status = present ? editgarde(m_session, groupe) : ajoutgarde(m_session, groupe);
+    if (!status.ok()) return status;
+    groupe.values() = {m_nom, nump, true};
+    return groupe.update();
+}
+
+} // namespace velmora

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+class QDialog;
+class QHBoxLayout;
+class QLayout;
+class QListWidget;
+class QPushButton;
+class QWidget;
+
+namespace velmora
+{
+
+/// The last row of a dialog: help on the left, which F1 presses too, the ends of the dialog on the right, the
+/// first of them the default one. `aide` may be null.
+[[nodiscard]] QLayout *rangeeCommandes(QDialog *dialogue, QPushButton *aide,
+                                       const QList<QPushButton *> &fins);
+
+/// The controls of a window that keeps a list.
+struct FenetreListe {
+    QListWidget *liste;
+    QWidget *volet; ///< pane of the selected row
+    QPushButton *ajouter;
+    QPushButton *modifier;
+    QPushButton *supprimer;
+    QPushButton *terminer;
+    QPushButton *aide;
+};
+
+/// Lays such a window out: the list with the pane beside it, the commands on the list under the pane. The
+/// pane keeps its room while it is hidden, so that nothing moves when a row is selected. `entete` stands
+/// above all and may be null.
+void disposeListe(QDialog *dialogue, const FenetreListe &fenetre, QWidget *entete = nullptr);
+
+} // namespace velmora
