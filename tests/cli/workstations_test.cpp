@@ -197,7 +197,7 @@ TEST(Workstations, EightOnOneBaseLoseNothingAndNeverBlockEachOther)
         ASSERT_EQ(
             all[0].run({"ligne", "nouvelle", QStringLiteral("COMMUNE %1").arg(nump), "01/01/2020"}).status,
             0);
-    ASSERT_EQ(all[0].run({"code", "nouveau", "CP", "Congés"}).status, 0);
+    ASSERT_EQ(all[0].run({"code", "ajouter", "CP", "Congés"}).status, 0);
 
     std::vector<std::thread> threads;
     for (Station &station : all)

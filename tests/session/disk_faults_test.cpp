@@ -51,6 +51,7 @@ protected:
             const bool known = text.startsWith(QStringLiteral("Problème accès disque!")) ||
                                text.startsWith(QStringLiteral("invalider : ")) ||
                                text.startsWith(QStringLiteral("revalider ")) ||
+                               text.startsWith(QStringLiteral("Des heures ont été saisies")) ||
                                text.startsWith(QStringLiteral("Suppr"));
             EXPECT_TRUE(known) << text.toStdString();
         }

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "absences/absence_entry.h"
+#include "absences/placing.h"
+#include "folders/composition.h"
 #include "journal/recording.h"
+#include "lines/lifecycle.h"
 #include "support/commands.h"
 #include "support/data_folder.h"
 
@@ -85,6 +89,33 @@ inline const std::vector<SessionCommand> &everyCommand()
         {"copy and paste", false,
          [](Session &session) {
              moveDays(session, 1, {2026, 6, 1}, {2026, 6, 4}, 2, {2026, 6, 7}, false);
+         }},
+        {"absence", false,
+         [](Session &session) {
+             const Ligne line = lineOf(session, 1);
+             prepareAbsence(session, line.nom, 1, {2026, 6, 11}, QDate(2026, 6, 22));
+             EXPECT_TRUE(
+                 saisieabs(session, {session.absdebut, session.absreprise, QStringLiteral("CP Congés")}));
+         }},
+        {"new line", false,
+         [](Session &session) {
+             EXPECT_TRUE(nouvelleLigne(session, QStringLiteral("LÉA"), {2026, 1, 1}, {}).faite);
+         }},
+        {"closing of a line", false,
+         [](Session &session) {
+             EXPECT_TRUE(fermeLigne(session, lineOf(session, 1), {2026, 6, 8}).faite);
+         }},
+        {"deletion of a line", false,
+         [](Session &session) { EXPECT_TRUE(supprimeLigne(session, lineOf(session, 1)).faite); }},
+        {"folder", false,
+         [](Session &session) {
+             session.modeajout = false;
+             session.dossiersel = QStringLiteral("Nuit");
+             CompositionDossier folder(session);
+             EXPECT_TRUE(folder.remplit());
+             for (int i = 0; i < static_cast<int>(folder.lignes().size()); ++i)
+                 folder.coche(i, folder.lignes()[static_cast<std::size_t>(i)].nump == 2);
+             EXPECT_TRUE(folder.enregistre(QStringLiteral("Nuit")));
          }},
         {"undo", true, [](Session &session) { annulop(session); }},
         {"redo", false, [](Session &session) { refaitop(session); }},
