@@ -96,13 +96,13 @@ inline QString ringOf(Session &session)
                                               &store::schemaOf<ImageAbs>()});
 }
 
-/// The faults that a check of a folder's files finds; remarks are left out.
-inline QStringList faultsIn(const QString &folder)
+/// The faults that a check of a folder's files finds, one in a line; remarks are left out.
+inline std::string faultsIn(const QString &folder)
 {
     QStringList faults;
     for (const store::Constat &constat : store::verifieFichiers(folder))
         if (constat.gravite == store::Constat::Gravite::Faute) faults << constat.phrase;
-    return faults;
+    return faults.join(QLatin1Char('\n')).toStdString();
 }
 
 /// A number that the environment may set, for longer runs than the suite's.
