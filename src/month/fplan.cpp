@@ -20,6 +20,7 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QPointer>
 #include <QProgressBar>
 
 #include <chrono>
@@ -98,7 +99,7 @@ void Fplan::construit()
     auto *colonne = new QVBoxLayout(this);
     colonne->setContentsMargins(6, 4, 6, 4);
     colonne->addLayout(titres);
-    colonne->addWidget(m_mg, 1);
+    colonne->addWidget(zoneGrille(), 1);
     colonne->addLayout(etat);
 }
 
@@ -177,10 +178,12 @@ void Fplan::celluleAtteinte()
 }
 
 /// Puts `ligmois` on the line of the current cell: the refresh cycle may not have run since the last move.
-void Fplan::positionneLigne()
+/// False when the line is gone; `ligmois` then stays where it was.
+bool Fplan::positionneLigne()
 {
     m_session.base.ligmois.setIndex("ligmois01");
-    m_session.base.ligmois.seek(store::Cmp::Eq, {m_planning.grille.numligne(m_planning.curseur.ligne)});
+    return m_session.base.ligmois.seek(store::Cmp::Eq,
+                                       {m_planning.grille.numligne(m_planning.curseur.ligne)});
 }
 
 void Fplan::refaitLigne(int ligne)
@@ -207,10 +210,13 @@ void Fplan::relieMenus()
     m_menus.lie(QStringLiteral("mnudo"), this, [this] { rejoue(refaitop); });
     m_menus.lie(QStringLiteral("mnusup"), this, &Fplan::supprime);
     m_menus.lie(QStringLiteral("mnusais"), this, &Fplan::saisitHeures);
-    relieAbsences();
     relieLignes();
+    relieAbsences();
+    relieSorties();
+    relieZoom();
     m_menus.lie(QStringLiteral("mnuaid"), this,
                 [this] { ouvreaide(m_session, QStringLiteral("sommaire.htm")); });
+    relieImpressions();
     m_menus.lie(QStringLiteral("mnuferm"), this, [this] { close(); });
 }
 
@@ -243,11 +249,22 @@ void Fplan::charge()
 
 void Fplan::rafraichit()
 {
-    cycle(m_planning, [this] {
-        m_date->setText(QStringLiteral("le :") + Foncgen::dtoc(m_planning.dateStatut));
-        m_statut->setText(m_planning.texteStatut);
-        m_statut->setToolTip(m_planning.texteStatut.toHtmlEscaped());
-    });
+    // A report keeps the cycle waiting; the month may be gone when it returns.
+    const QPointer<Fplan> vivante(this);
+    cycle(
+        m_planning,
+        [this] {
+            m_date->setText(QStringLiteral("le :") + Foncgen::dtoc(m_planning.dateStatut));
+            m_statut->setText(m_planning.texteStatut);
+            m_statut->setToolTip(m_planning.texteStatut.toHtmlEscaped());
+        },
+        [this] { montreCommandes(); });
+    if (!vivante || m_ferme) return;
+    cycle(m_planning);
+    m_date->setText(QStringLiteral("le : ") + Foncgen::dtoc(m_planning.dateStatut));
+    m_statut->setText(m_planning.texteStatut);
+    m_statut->setToolTip(m_planning.texteStatut.toHtmlEscaped());
+    montreZoom();
     montreCommandes();
     if (m_mg->isVisible() && m_mg->isEnabled()) m_mg->setFocus();
 }
@@ -271,7 +288,8 @@ void Fplan::execute()
 {
     const auto bouton = boutonDeCle(m_cle);
     if (!bouton || !commandesBoutons().contains(*bouton)) return;
-    m_menus.entree(commandesBoutons().value(*bouton))->trigger();
+    const bool quitteZoom = *bouton == Bouton::Zoom && m_zoomact;
+    m_menus.entree(quitteZoom ? QStringLiteral("mnuaffnorm") : commandesBoutons().value(*bouton))->trigger();
 }
 
 void Fplan::saisitHeures()

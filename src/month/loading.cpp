@@ -1,5 +1,6 @@
 #include "month/loading.h"
 
+#include "folders/membership.h"
 #include "month/cursor.h"
 #include "month/line_days.h"
 #include "month/line_state.h"
@@ -123,10 +124,7 @@ int compteLignes(Session &session, const Periode &periode)
 
 bool ligdossier(Session &session, int nump)
 {
-    if (session.dossiervue.isEmpty()) return true;
-    auto &groupe = session.base.groupe;
-    groupe.setIndex("groupeng");
-    return groupe.seek(store::Cmp::Eq, {nump, session.dossiervue});
+    return dansDossier(session, nump, session.dossiervue);
 }
 
 void chargeligne(Planning &planning, const Ligne &ligne)
@@ -154,6 +152,8 @@ bool chargi(Planning &planning, const Chargement &chargement)
             if (!planning.lecture.ok()) ditErreurBase(planning);
             return false;
         }
+        // The verdicts leave the set of today selected.
+        if (planning.controlpresent) jeuaudate(planning.session, planning.session.host.today());
         planning.curseur = {Grille::lignesFixes, colonneDepart(planning)};
         planning.colprec = planning.curseur.colonne;
         planning.rowprec = planning.curseur.ligne;
