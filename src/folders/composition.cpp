@@ -6,6 +6,7 @@
 #include "session/guards.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace velmora
 {
@@ -83,9 +84,12 @@ bool CompositionDossier::valide(const QString &texte) const
 bool CompositionDossier::enregistre(const QString &texte)
 {
     bool pris = false;
+    bool repris = false;
     const bool fait = enLot(m_session, [&] {
-        // Another workstation can have given the name since it was checked.
-        pris = m_session.modeajout && placedossier(m_session, texte.trimmed());
+        // Another workstation can have given the name since it was checked. A second try may find the head
+        // row of the first.
+        pris =
+            m_session.modeajout && !std::exchange(repris, true) && placedossier(m_session, texte.trimmed());
         return pris ? Status{} : ecrit(texte);
     });
     if (pris) return refuseNom(m_session);
@@ -96,16 +100,15 @@ bool CompositionDossier::enregistre(const QString &texte)
 
 Status CompositionDossier::ecrit(const QString &texte)
 {
+    // The head row keeps the blanks around the name and the member rows don't: this is wanted.
+    if (m_session.modeajout) m_nom = texte.trimmed();
+    const QString &tete = m_session.modeajout ? texte : m_designation;
     Status status;
-    if (m_session.modeajout) {
-        // The head row keeps the blanks around the name and the member rows don't: this is wanted.
-        m_nom = texte.trimmed();
-        status = ajouteTete(texte);
-    } else if (!placedossier(m_session, m_designation)) {
-        // Deleted by another workstation since the dialog opened: lines without a head row would be no
-        // folder.
+    // Another workstation can have deleted the folder since the dialog opened: lines without a head row would
+    // be no folder.
+    if (!placedossier(m_session, tete)) {
         status = m_session.base.groupe.status();
-        if (status.ok()) status = ajouteTete(m_designation);
+        if (status.ok()) status = ajouteTete(tete);
     }
     for (const LigneCochable &ligne : m_lignes)
         if (status.ok()) status = ecritLigne(ligne);
