@@ -17,5 +17,6 @@ std::vector<Commande> commandesDossiers();
 std::vector<Commande> commandesImpressions();
 std::vector<Commande> commandesExport();
 std::vector<Commande> commandesSauvegarde();
+std::vector<Commande> commandesVerification();
 
 } // namespace velmora::cli

@@ -12,8 +12,6 @@ namespace velmora::store
 namespace
 {
 
-constexpr std::chrono::milliseconds lockWait{300};
-
 /// A file whose header carries the journal's mark, however damaged the rest is. The engine reads it: opening
 /// the file beside the engine would let go of the locks that a session of this process may hold on it.
 Status checkMark(Engine &engine)
@@ -28,7 +26,7 @@ Status openDamaged(SqliteEngine &engine, const QString &path)
 {
     if (QFileInfo(path).isFile() && !QFileInfo(path).isWritable())
         return {Status::Code::ReadOnly, QStringLiteral("the file can't be written")};
-    Status status = engine.open(path, {.damaged = true, .busyWait = lockWait});
+    Status status = engine.open(path, {.damaged = true, .busyWait = journalWait});
     if (status.ok()) status = checkMark(engine);
     if (!status.ok()) return status;
     // Damage that shows here is no obstacle, a lock is. Only a connection with the right to write gets a lock
