@@ -47,6 +47,8 @@ constexpr Ratio ratios[]{
     {"opening 60 lines over bare reading", "BM_OpenMonth/60", "BM_BareReading/60"},
     {"opening 996 lines over bare reading", "BM_OpenMonth/996", "BM_BareReading/996"},
     {"refills that one opening is worth", "BM_OpenMonth/996", "BM_RefillLine/996"},
+    {"verdicts of 996 lines over opening", "BM_Verdicts", "BM_OpenMonth/996"},
+    {"opening with controls over opening", "BM_OpenControlled", "BM_OpenMonth/996"},
     {"entry of 31 days over bare writing", "BM_Entry/real_time", "BM_BareWriting/real_time"},
     {"undo of it over bare writing", "BM_Undo/real_time", "BM_BareWriting/real_time"},
     {"redo of it over bare writing", "BM_Redo/real_time", "BM_BareWriting/real_time"},

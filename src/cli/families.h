@@ -8,6 +8,8 @@ namespace velmora::cli
 // The commands by family, each in the order of the help. A family stands beside its commands.
 std::vector<Commande> commandesBase();
 std::vector<Commande> commandesMois();
+std::vector<Commande> commandesControle();
+std::vector<Commande> commandesLignes();
 std::vector<Commande> commandesCalendrier();
 std::vector<Commande> commandesDossiers();
 

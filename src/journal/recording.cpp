@@ -90,15 +90,6 @@ int prendCase(Session &session, int annulees, const QString &ficop, const QStrin
     return prise;
 }
 
-template <class Image> void purgeImages(Session &session, store::Table<Image> &images, int numop)
-{
-    bool found = images.seek(Cmp::Ge, {numop});
-    while (found && images.row().rang.numop == numop) {
-        supprgarde(session, images).ignore();
-        found = images.next();
-    }
-}
-
 /// Writes an image under the next rank of the operation being recorded. `copie` copies the row in.
 template <class Image, class Copie>
 void ajouteImage(Session &session, store::Table<Image> &images, const QString &avap, const QString &foncop,
@@ -106,7 +97,7 @@ void ajouteImage(Session &session, store::Table<Image> &images, const QString &a
 {
     if (session.opcour == 0) return;
     ++session.nivcour;
-    if (images.seek(Cmp::Eq, {session.opcour, session.nivcour})) supprgarde(session, images).ignore();
+    images.eraseRun({session.opcour, session.nivcour}).ignore();
     if (!ajoutgarde(session, images).ok()) return;
     Image &image = images.values();
     image.rang = {session.opcour, session.nivcour, avap, foncop};
@@ -150,8 +141,9 @@ int ecritop(Session &session, const QString &ficop, const QString &libop)
 
 void purgeop(Session &session, int numop)
 {
-    purgeImages(session, session.journal.sitlog, numop);
-    purgeImages(session, session.journal.logabs, numop);
+    // No other session has the journal: no row of it can be held.
+    session.journal.sitlog.eraseRun({numop}).ignore();
+    session.journal.logabs.eraseRun({numop}).ignore();
 }
 
 Status editsit(Session &session)
@@ -182,7 +174,7 @@ Status majsit(Session &session)
     auto &sitper = session.base.sitper;
     const Status ecrit = sitper.update();
     if (!ecrit.ok()) return ecrit;
-    if (sitper.goTo(sitper.lastModified())) imagesit(session, imageApres, session.foncsit);
+    if (sitper.goToModified()) imagesit(session, imageApres, session.foncsit);
     return sitper.status();
 }
 
@@ -213,7 +205,7 @@ Status majabs(Session &session)
     auto &absences = session.base.absences;
     const Status ecrit = absences.update();
     if (!ecrit.ok()) return ecrit;
-    if (absences.goTo(absences.lastModified())) imageabs(session, imageApres, session.foncabs);
+    if (absences.goToModified()) imageabs(session, imageApres, session.foncabs);
     return absences.status();
 }
 

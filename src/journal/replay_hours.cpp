@@ -35,7 +35,7 @@ Status restaure(Session &session, const JourSit &jour)
     if (!status.ok()) return status;
     sitper.values() = jour;
     status = sitper.update();
-    if (status.ok()) sitper.goTo(sitper.lastModified());
+    if (status.ok()) sitper.goToModified();
     return status;
 }
 

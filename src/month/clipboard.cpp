@@ -43,7 +43,11 @@ Status ajouteCopie(Session &session, Pressepapiers &presse, const JourSit &jour)
     auto &sitco = session.journal.sitco;
     Status status = ajoutgarde(session, sitco);
     if (!status.ok()) return status;
-    sitco.values().jour = jour;
+    JourSit &copie = sitco.values().jour = jour;
+    // What belongs to the row rather than to its hours isn't held.
+    copie.sit = 0;
+    copie.numv = 0;
+    copie.babs = false;
     status = sitco.update();
     if (status.ok())
         presse.clipbk.back() = sitco.lastModified();
@@ -77,6 +81,7 @@ Status retient(Session &session, Pressepapiers &presse, const Ligne &ligne, cons
     }
     presse.clipbk.clear();
     videsitco(session);
+    presse.vidages = session.vidagessitco;
     QDate dat = debut;
     for (std::optional<JourSit> &jour : jours) {
         const Status status = retientJour(session, presse, ligne.nump, dat, jour);
@@ -182,13 +187,13 @@ bool retientJours(Session &session, Pressepapiers &presse, const Ligne &ligne, c
 
 void colleJours(Session &session, Pressepapiers &presse, const Ligne &ligne, const QDate &debut)
 {
-    const auto jours = joursTenus(session, presse);
+    const auto jours = presse.tient(session) ? joursTenus(session, presse) : std::nullopt;
     if (!jours) return presse.vide();
     const Collage collage(session);
     enLot(session, [&] { return colle(session, *jours, ligne, debut); });
 }
 
-void clipcopie(Planning &planning)
+void clipcopie(Planning &planning, const std::function<void()> &montreApercu)
 {
     Pressepapiers &presse = planning.pressepapiers;
     const bool coupe = presse.clipcoupe;
@@ -198,7 +203,9 @@ void clipcopie(Planning &planning)
         return;
     }
     presse.clipligne = cible->rangee;
-    if (!retientJours(planning.session, presse, cible->ligne, cible->debut, cible->fin))
+    const bool tenus = retientJours(planning.session, presse, cible->ligne, cible->debut, cible->fin);
+    if (montreApercu) montreApercu();
+    if (!tenus)
         planning.session.host.message(pasDHoraire(), titre);
     else if (coupe)
         majligne(planning, cible->ligne.nump, presse.clipligne);

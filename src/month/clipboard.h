@@ -2,6 +2,7 @@
 
 #include "session/session.h"
 
+#include <functional>
 #include <vector>
 
 namespace velmora
@@ -17,9 +18,15 @@ struct Pressepapiers {
     bool clipcoupe = false; ///< the running command is a cut
     int clipligne = 0;      ///< grid row of the source or target line
     QString infobulle;      ///< tooltip of the button "Coller": the hours of each day held last
+    int vidages = 0;        ///< the session's count of emptied clipboards when the days were held
 
     /// Days held, 0 when the clipboard is empty.
     [[nodiscard]] int cliplong() const { return static_cast<int>(clipbk.size()); }
+    /// Whether days are held still: any other operation of the journal ends what was cut or copied.
+    [[nodiscard]] bool tient(const Session &session) const
+    {
+        return cliplong() > 0 && vidages == session.vidagessitco;
+    }
     void vide();
 };
 
@@ -36,8 +43,9 @@ bool retientJours(Session &session, Pressepapiers &presse, const Ligne &ligne, c
 /// copy has ended what was held: then nothing is written and the clipboard is empty.
 void colleJours(Session &session, Pressepapiers &presse, const Ligne &ligne, const QDate &debut);
 
-/// Holds the selection or the current day, or cuts it when `clipcoupe` is set.
-void clipcopie(Planning &planning);
+/// Holds the selection or the current day, or cuts it when `clipcoupe` is set. `montreApercu` shows the new
+/// tooltip, before anything is said.
+void clipcopie(Planning &planning, const std::function<void()> &montreApercu = {});
 
 /// Pastes from the current cell on and removes the selection.
 void clipcolle(Planning &planning);

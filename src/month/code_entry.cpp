@@ -42,13 +42,18 @@ SaisieCode::SaisieCode(QWidget *grille, QWidget *cadre)
 void SaisieCode::commence(const QRect &cellule, const QString &touche, const QString &titreSaisie)
 {
     m_labeli1->setText(titreSaisie);
-    m_text1->setGeometry({m_grille->mapTo(m_text1->parentWidget(), cellule.topLeft()), cellule.size()});
+    place(cellule);
     m_text1->raise();
     m_text1->setText(touche.toUpper());
     m_text1->show();
     m_frame2->show();
     m_text1->setFocus();
     m_text1->end(false);
+}
+
+void SaisieCode::place(const QRect &cellule)
+{
+    m_text1->setGeometry({m_grille->mapTo(m_text1->parentWidget(), cellule.topLeft()), cellule.size()});
 }
 
 void SaisieCode::recommence()

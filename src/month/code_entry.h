@@ -24,6 +24,8 @@ public:
 
     /// Opens the field over a cell, with the first key in capitals.
     void commence(const QRect &cellule, const QString &touche, const QString &titreSaisie);
+    /// Lays the field over its cell, which has moved or changed its size.
+    void place(const QRect &cellule);
     /// Empties the field for another try.
     void recommence();
     void termine();

@@ -11,6 +11,7 @@ struct EtatCommandes {
     bool copier = false;
     bool coller = false; ///< the cell takes a paste and something is held
     bool absence = false;
+    bool supprimer = false; ///< the day is one of the line's
     bool annuler = false;
     bool refaire = false;
     bool fermerLigne = false;   ///< the current line is open

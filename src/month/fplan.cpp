@@ -155,8 +155,12 @@ void Fplan::relieGrille()
     connect(m_mg, &VueGrille::touche, this, &Fplan::touchePressee);
     connect(m_mg, &VueGrille::suppression, this, [this] {
         positionneLigne();
-        if (jourDeLigne(m_planning)) supprime();
+        if (jourDeLigne(m_planning))
+            supprime();
+        else
+            lanceCycle();
     });
+    connect(m_mg, &VueGrille::sansEffet, this, &Fplan::lanceCycle);
     connect(m_mg, &VueGrille::menuDemande, this, &Fplan::montreMenuGrille);
     connect(m_code, &SaisieCode::codeTape, this, &Fplan::verifieCode);
     connect(m_code, &SaisieCode::abandon, this, &Fplan::finitCode);
@@ -205,6 +209,7 @@ void Fplan::relieMenus()
     m_menus.lie(QStringLiteral("mnudo"), this, [this] { rejoue(refaitop); });
     m_menus.lie(QStringLiteral("mnusup"), this, &Fplan::supprime);
     m_menus.lie(QStringLiteral("mnusais"), this, &Fplan::saisitHeures);
+    relieLignes();
     m_menus.lie(QStringLiteral("mnuaid"), this,
                 [this] { ouvreaide(m_session, QStringLiteral("sommaire.htm")); });
     m_menus.lie(QStringLiteral("mnuferm"), this, [this] { close(); });
@@ -219,7 +224,8 @@ void Fplan::charge()
 {
     m_pgb->setRange(0, compteLignes(m_session, m_planning.periode) + margeProgres);
     m_pgb->setValue(1);
-    const Chargement chargement{.progres = [this](int valeur) { m_pgb->setValue(valeur); }};
+    const Chargement chargement{.progres = [this](int valeur) { m_pgb->setValue(valeur); },
+                                .nouvelleligne = [this] { return ligneDuMoisVide(); }};
     m_mg->hide();
     if (!chargi(m_planning, chargement)) {
         close();
@@ -238,10 +244,11 @@ void Fplan::charge()
 
 void Fplan::rafraichit()
 {
-    cycle(m_planning);
-    m_date->setText(QStringLiteral("le : ") + Foncgen::dtoc(m_planning.dateStatut));
-    m_statut->setText(m_planning.texteStatut);
-    m_statut->setToolTip(m_planning.texteStatut.toHtmlEscaped());
+    cycle(m_planning, [this] {
+        m_date->setText(QStringLiteral("le :") + Foncgen::dtoc(m_planning.dateStatut));
+        m_statut->setText(m_planning.texteStatut);
+        m_statut->setToolTip(m_planning.texteStatut.toHtmlEscaped());
+    });
     montreCommandes();
     if (m_mg->isVisible() && m_mg->isEnabled()) m_mg->setFocus();
 }
@@ -270,8 +277,6 @@ void Fplan::execute()
 
 void Fplan::saisitHeures()
 {
-    m_timer2.stop();
-    m_timer3.stop();
     const Place place = m_planning.curseur;
     if (!m_planning.grille.estLigne(place.ligne)) return lanceCycle();
     const int nump = m_planning.grille.numligne(place.ligne);
@@ -280,6 +285,8 @@ void Fplan::saisitHeures()
     positionneLigne();
     if (prepareSaisie(m_session, m_planning.grille.lit(place.ligne, Grille::colonneNom).texte, nump,
                       m_planning.date(place.colonne), fin)) {
+        m_timer2.stop();
+        m_timer3.stop();
         m_planning.suivi = false;
         Partielm dialogue(
             m_session,
@@ -299,8 +306,8 @@ void Fplan::copie(bool coupe)
     m_timer2.stop();
     positionneLigne();
     m_planning.pressepapiers.clipcoupe = coupe;
-    clipcopie(m_planning);
-    emit tipChanged(QStringLiteral("Coller"), m_planning.pressepapiers.infobulle);
+    clipcopie(m_planning,
+              [this] { emit tipChanged(QStringLiteral("Coller"), m_planning.pressepapiers.infobulle); });
     lanceCycle();
 }
 
@@ -346,6 +353,7 @@ void Fplan::touchePressee(const QString &texte)
 void Fplan::commenceCode(const QString &touche)
 {
     const Place place = m_planning.curseur;
+    m_mg->suitCurseur();
     m_planning.suivi = false;
     m_mg->setEnabled(false);
     m_menus.permetMenus(false);
@@ -386,12 +394,15 @@ void Fplan::choisitTotaux(bool centiemes)
 
 bool Fplan::stretchColumns(int twips)
 {
-    return etireColonnes(m_planning.grille, twips);
+    const bool etirees = etireColonnes(m_planning.grille, twips);
+    m_code->place(m_mg->rectCurseur());
+    return etirees;
 }
 
 void Fplan::stretchRows(int twips)
 {
     etireLignes(m_planning.grille, twips);
+    m_code->place(m_mg->rectCurseur());
 }
 
 void Fplan::closeEvent(QCloseEvent *event)

@@ -41,6 +41,7 @@ private:
     void construitEntete();
     void relie();
     void relieMenus();
+    void relieLignes();
     void mesure();
 
     void charge();
@@ -65,6 +66,15 @@ private:
     void finitCode();
     void montreMenuGrille(const QPoint &point);
     void choisitTotaux(bool centiemes);
+
+    // Commands on lines.
+    [[nodiscard]] bool demandeLigne();
+    [[nodiscard]] bool ligneDuMoisVide();
+    void ouvreLigne();
+    void surLigne(const std::function<void(const Ligne &)> &commande);
+    template <class Dialogue> [[nodiscard]] bool demande(const Ligne &ligne);
+    void termineLigne();
+
     void touchePressee(const QString &texte);
 
     Session &m_session;

@@ -51,7 +51,10 @@ QVariant ModeleGrille::headerData(int section, Qt::Orientation orientation, int 
     const int sections = orientation == Qt::Horizontal ? columnCount() : rowCount();
     if (section < 0 || section >= sections) return {};
     if (orientation == Qt::Horizontal) return grille().lit(Grille::ligneJour, colonneGrille(section)).texte;
-    return grille().lit(ligneGrille(section), Grille::colonneNom).texte;
+    const int ligne = ligneGrille(section);
+    const QString &nom = grille().lit(ligne, Grille::colonneNom).texte;
+    const QString &etat = grille().lit(ligne, Grille::colonneEtat).texte;
+    return role == Qt::DisplayRole || etat.isEmpty() ? nom : nom + QLatin1Char(' ') + etat;
 }
 
 void ModeleGrille::recharge()

@@ -83,13 +83,11 @@ void VueGrille::montreGrille()
 void VueGrille::montreRapport(int section)
 {
     emit gesteCommence();
-    if (!m_planning.grille.estLigne(ModeleGrille::ligneGrille(section))) return;
     m_planning.rapportdemande = true;
     const QModelIndex but = m_modele.index(section, ModeleGrille::colonneVue(m_planning.curseur.colonne));
-    if (but != currentIndex())
-        setCurrentIndex(but);
-    else
-        emit caseAtteinte();
+    if (but != currentIndex()) return setCurrentIndex(but);
+    emit caseQuittee();
+    emit caseAtteinte();
 }
 
 void VueGrille::montreGauche()
@@ -114,7 +112,10 @@ QModelIndex VueGrille::indexCurseur() const
 void VueGrille::suitCurseur()
 {
     const QScopedValueRollback place(m_place, true);
-    setCurrentIndex(indexCurseur());
+    const QModelIndex index = indexCurseur();
+    setCurrentIndex(index);
+    // A cell that shows in part stays where it is: a second click must meet the same day.
+    if (!visualRect(index).intersects(viewport()->rect())) scrollTo(index);
 }
 
 void VueGrille::currentChanged(const QModelIndex &current, const QModelIndex &previous)
@@ -147,11 +148,17 @@ void VueGrille::mousePressEvent(QMouseEvent *event)
 {
     emit gesteCommence();
     const QModelIndex dessous = indexAt(event->pos());
-    if (event->button() == Qt::LeftButton) {
+    if (event->button() == Qt::LeftButton && dessous.isValid()) {
         QTableView::mousePressEvent(event);
-        if (dessous.isValid()) commenceSelection(m_planning);
+        if (m_planning.grille.estLigne(ModeleGrille::ligneGrille(dessous.row())))
+            commenceSelection(m_planning);
+        // The move to the cell has started the refresh, which must wait for the end of the drag.
+        if (m_planning.selection.selglisse) emit gesteCommence();
     } else if (event->button() == Qt::RightButton && dessous.isValid() && !m_planning.selection.selact) {
         setCurrentIndex(dessous);
+        emit sansEffet();
+    } else {
+        emit sansEffet();
     }
 }
 
@@ -163,6 +170,8 @@ void VueGrille::mouseMoveEvent(QMouseEvent *event)
 /// The selection follows the pointer on its own row; past the edge the grid follows too.
 void VueGrille::glisse(int x)
 {
+    // Over the names nothing changes.
+    if (x < 0) return;
     if (x >= viewport()->width()) {
         horizontalScrollBar()->setValue(horizontalScrollBar()->value() + 1);
         x = viewport()->width() - 1;
@@ -177,9 +186,10 @@ void VueGrille::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton && m_planning.selection.selglisse) {
         finitSelection(m_planning);
-        suitCurseur();
-        if (!curseurVisible(ModeleGrille::colonneGrille(horizontalScrollBar()->value())))
+        const QRect rect = rectCurseur();
+        if (m_planning.selection.selact && (rect.right() < 0 || rect.left() >= viewport()->width()))
             horizontalScrollBar()->setValue(ModeleGrille::colonneVue(m_planning.curseur.colonne));
+        suitCurseur();
         emit selectionFinie();
     } else if (event->button() == Qt::RightButton && indexAt(event->pos()).isValid()) {
         emit menuDemande(pointMenu());
@@ -192,27 +202,50 @@ QPoint VueGrille::pointMenu() const
 {
     const QRect rect = rectCurseur();
     const int ecart = pixels(ecartMenu, *this);
-    const bool gauche = rect.left() < viewport()->width() / 2;
+    const bool gauche = rect.left() + m_lignes->width() < width() / 2;
     return viewport()->mapToGlobal(QPoint(gauche ? rect.right() + ecart : rect.left() - ecart, rect.top()));
 }
 
+/// The view would take a second click that falls on a neighbour for a new press, whose release the dialog
+/// would then swallow.
 void VueGrille::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    QTableView::mouseDoubleClickEvent(event);
-    if (event->button() == Qt::LeftButton && indexAt(event->pos()).isValid()) emit doubleClic();
+    const QModelIndex dessous = indexAt(event->pos());
+    if (event->button() != Qt::LeftButton || !dessous.isValid()) return;
+    if (dessous != currentIndex())
+        mousePressEvent(event);
+    else
+        emit doubleClic();
 }
 
-/// One row a notch, within the lines.
+/// One row a notch, within the lines. A touchpad's parts of a notch add up.
 void VueGrille::wheelEvent(QWheelEvent *event)
 {
-    if (!m_planning.suivi || event->angleDelta().y() == 0) return QTableView::wheelEvent(event);
-    const int sens = event->angleDelta().y() > 0 ? -1 : 1;
-    verticalScrollBar()->setValue(verticalScrollBar()->value() + sens);
+    constexpr int cran = QWheelEvent::DefaultDeltasPerStep;
+    if (event->angleDelta().y() == 0) return QTableView::wheelEvent(event);
     event->accept();
+    if (!m_planning.suivi) return;
+    m_molette += event->angleDelta().y();
+    verticalScrollBar()->setValue(verticalScrollBar()->value() - m_molette / cran);
+    m_molette %= cran;
 }
 
+/// While the button drags, keys are no commands: a selection that a command removes would leave the drag
+/// without its anchor.
+bool VueGrille::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride && m_planning.selection.selglisse) {
+        event->accept();
+        return true;
+    }
+    return QTableView::event(event);
+}
+
+/// The view keeps the keys that move the cell, so that the month can be worked in without a mouse; of all
+/// others it sees none.
 void VueGrille::keyPressEvent(QKeyEvent *event)
 {
+    if (m_planning.selection.selglisse) return event->accept();
     emit gesteCommence();
     const QString texte = event->text();
     const bool caractere = !texte.isEmpty() && texte.front().isPrint() &&
@@ -222,7 +255,8 @@ void VueGrille::keyPressEvent(QKeyEvent *event)
     } else if (caractere) {
         emit touche(texte);
     } else {
-        QTableView::keyPressEvent(event);
+        if (!event->matches(QKeySequence::Copy)) QTableView::keyPressEvent(event);
+        emit sansEffet();
     }
 }
 

@@ -53,6 +53,8 @@ signals:
     void doubleClic();
     /// A button of the mouse went down on the grid, or a key: the refresh waits.
     void gesteCommence();
+    /// The gesture is over, or had nothing to act on: the refresh may run.
+    void sansEffet();
     /// The left button came up; the selection is what it is now.
     void selectionFinie();
     /// The right button came up on a cell: the popup menu is wanted at this point of the screen.
@@ -69,6 +71,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void updateGeometries() override;
@@ -86,6 +89,7 @@ private:
     EnteteLignes *m_lignes;
     CoinGrille *m_coin;
     bool m_place = false; // the view is being moved by the program
+    int m_molette = 0;    // parts of a notch of the wheel that moved no row yet
 };
 
 } // namespace velmora

@@ -39,7 +39,9 @@ Couleurs couleursPropres(const Planning &planning, const Place &place)
 {
     if (place == planning.surbrillance.place)
         return {planning.surbrillance.fond, planning.surbrillance.encre};
-    if (estSelectionnee(planning, place)) return planning.selection.couleurs.value(place.colonne);
+    const Selection &selection = planning.selection;
+    if (estSelectionnee(planning, place))
+        return {selection.coulfond.value(place.colonne), selection.coultexte.value(place.colonne)};
     const Case &une = planning.grille.lit(place.ligne, place.colonne);
     return {une.fond, une.encre};
 }
@@ -49,7 +51,10 @@ void coloreCase(Planning &planning, const Place &place, QRgb fond, QRgb encre)
     const bool surbrillante = place == planning.surbrillance.place;
     const bool selectionnee = estSelectionnee(planning, place);
     if (surbrillante) planning.surbrillance = {place, fond, encre};
-    if (selectionnee) planning.selection.couleurs.insert(place.colonne, {fond, encre});
+    if (selectionnee) {
+        planning.selection.coulfond.insert(place.colonne, fond);
+        planning.selection.coultexte.insert(place.colonne, encre);
+    }
     if (!surbrillante && !selectionnee) planning.grille.colore(place.ligne, place.colonne, fond, encre);
 }
 

@@ -1,6 +1,8 @@
 #include "month/loading.h"
 
 #include "month/cursor.h"
+#include "month/line_days.h"
+#include "month/line_state.h"
 #include "month/refresh.h"
 #include "month/rows.h"
 #include "session/batch.h"
@@ -134,8 +136,10 @@ void chargeligne(Planning &planning, const Ligne &ligne)
     grille.ecrit(rangee, Grille::colonneNom, ligne.nom);
     grille.fixeNumligne(rangee, ligne.nump);
     marqueferme(planning, ligne, rangee);
-    sommeavant(planning, ligne.nump, rangee);
-    rempligne(planning, ligne.nump, rangee);
+    const SuiteJours jours = joursDeLaGrille(planning, ligne);
+    sommeavant(planning, jours, rangee);
+    rempligne(planning, ligne.nump, jours, rangee);
+    marqueControles(planning, ligne, rangee, jours);
 }
 
 bool chargi(Planning &planning, const Chargement &chargement)
@@ -145,6 +149,7 @@ bool chargi(Planning &planning, const Chargement &chargement)
         planning.suivi = false;
         planning.surbrillance = {};
         planning.lecture = {};
+        planning.controlpresent = false;
         if (!peuple(planning, chargement)) {
             if (!planning.lecture.ok()) ditErreurBase(planning);
             return false;

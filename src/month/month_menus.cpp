@@ -154,12 +154,15 @@ void MenusMois::permetMenus(bool permis)
     for (QAction *menu : m_barre)
         if (menu->menu()) menu->setEnabled(permis);
     m_maca->setEnabled(permis);
+    // The entries are shortcuts too. Opened again, they are as the commands stood.
     for (const QString &nom : m_liees)
         if (!m_barre.contains(entree(nom))) entree(nom)->setEnabled(permis);
+    if (permis) montre(m_etat);
 }
 
 void MenusMois::montre(const EtatCommandes &etat)
 {
+    m_etat = etat;
     permet(QStringLiteral("mnucoupe"), etat.couper);
     permet(QStringLiteral("maccoupe"), etat.couper);
     permet(QStringLiteral("mnucopier"), etat.copier);
@@ -169,6 +172,7 @@ void MenusMois::montre(const EtatCommandes &etat)
     permet(QStringLiteral("mnuundo"), etat.annuler);
     permet(QStringLiteral("mnudo"), etat.refaire);
     permet(QStringLiteral("mnuabs"), etat.absence);
+    permet(QStringLiteral("mnusup"), etat.supprimer);
     permet(QStringLiteral("mnufermlig"), etat.fermerLigne);
     permet(QStringLiteral("mnureouv"), etat.reouvrirLigne);
     permet(QStringLiteral("mnurenlig"), etat.renommerLigne);

@@ -43,7 +43,8 @@ public:
     /// Opens or closes the menus as a whole, while a cell takes a code.
     void permetMenus(bool permis);
 
-    /// Opens and closes the entries as the commands stand.
+    /// Opens and closes the entries as the commands stand. Undo, redo and absence follow their command too,
+    /// as their buttons of the toolbar do.
     void montre(const EtatCommandes &etat);
 
 private:
@@ -57,6 +58,7 @@ private:
     QList<QAction *> m_barre;
     QHash<QString, QAction *> m_entrees;
     QStringList m_liees;
+    EtatCommandes m_etat; ///< shown last
 };
 
 } // namespace velmora

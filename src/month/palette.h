@@ -17,6 +17,8 @@ inline constexpr QRgb encreAujourdhui = 0xffffffff;
 inline constexpr QRgb bande1 = 0xffffffc0; ///< month bands, one month and the next
 inline constexpr QRgb bande2 = 0xffffe0c0;
 inline constexpr QRgb ferie = 0xfffdffea;
+inline constexpr QRgb encreControle1 = 0xffc00000; ///< the mark of a failure that lies ahead
+inline constexpr QRgb encreControle2 = 0xff1e7a34; ///< the mark of a line in order
 inline constexpr QRgb fondTotal = 0xffdde6ee; ///< the total row
 inline constexpr QRgb encreTotal = 0xff12324f;
 

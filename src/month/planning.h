@@ -36,12 +36,13 @@ struct Couleurs {
 /// A run of columns on one row. It only grows to the right; `selfin` below `seldeb` is the empty state of a
 /// drag that came back onto its anchor.
 struct Selection {
-    bool selact = false;             ///< a selection exists
-    bool selglisse = false;          ///< the left button is dragging
-    int selligne = 0;                ///< its row
-    int seldeb = 0;                  ///< anchor column
-    int selfin = 0;                  ///< last selected column
-    QHash<int, Couleurs> couleurs{}; ///< own colours of the selected cells, by column
+    bool selact = false;          ///< a selection exists
+    bool selglisse = false;       ///< the left button is dragging
+    int selligne = 0;             ///< its row
+    int seldeb = 0;               ///< anchor column
+    int selfin = 0;               ///< last selected column
+    QHash<int, QRgb> coulfond{};  ///< own background of the selected cells, by column
+    QHash<int, QRgb> coultexte{}; ///< own text colour of them
 };
 
 /// An open month: what the month form shows, without the form. The procedures of this folder work on it;
@@ -68,6 +69,7 @@ struct Planning {
     int colonneGauche = Grille::colonnesFixes; ///< first day column in view
     Surbrillance surbrillance;
     bool rapportdemande = false; ///< the current line's labour report was asked for; the next refresh answers
+    bool controlpresent = false; ///< a line of the grid has controls: the column of states is open
     QString texteStatut;         ///< status text of the current cell
     QDate dateStatut;
     EtatCommandes commandes;

@@ -2,6 +2,8 @@
 
 #include "month/planning.h"
 
+#include <functional>
+
 namespace velmora
 {
 
@@ -10,8 +12,9 @@ namespace velmora
 void majcommandes(Planning &planning);
 
 /// The refresh cycle around the current cell: reads its line, writes the status text, moves the highlight and
-/// decides which commands are open.
-void cycle(Planning &planning);
+/// decides which commands are open; then shows the line's report if it was asked for. `montreStatut` shows
+/// the status text, before anything is said.
+void cycle(Planning &planning, const std::function<void()> &montreStatut = {});
 
 /// Tells that the tables can't be read.
 void ditErreurBase(const Planning &planning);

@@ -3,7 +3,10 @@
 #include "month/absence_cells.h"
 #include "month/cells.h"
 #include "month/highlight.h"
+#include "month/line_days.h"
+#include "month/line_state.h"
 #include "month/refresh.h"
+#include "month/selection.h"
 #include "session/batch.h"
 #include "session/values.h"
 
@@ -15,15 +18,6 @@ namespace velmora
 namespace
 {
 
-/// The columns of `sitper` that the grid reads.
-const std::vector<int> &colonnesLues()
-{
-    static const auto lues =
-        store::Columns<JourSit>::of(&JourSit::dat, &JourSit::Val, &JourSit::heurdeb, &JourSit::heurfin,
-                                    &JourSit::hideb, &JourSit::hifin, &JourSit::hideb2, &JourSit::hifin2);
-    return lues;
-}
-
 QString total(const Planning &planning, int minutes)
 {
     return QLatin1Char(' ') + hdeci(minutes, planning.session.totcent);
@@ -33,17 +27,14 @@ QString total(const Planning &planning, int minutes)
 class Remplissage
 {
 public:
-    Remplissage(Planning &planning, int nump, int rangee)
+    Remplissage(Planning &planning, int nump, const SuiteJours &jours, int rangee)
         : m_planning(planning), m_grille(planning.grille), m_rangee(rangee),
-          m_absences(planning.session, nump), m_codes(planning.session),
-          m_jours(planning.session.base.sitper.range("sitper01", {nump, planning.periode.debgrille},
-                                                     {nump, planning.periode.fingrille}, colonnesLues()))
+          m_absences(planning.session, nump), m_codes(planning.session), m_jours(jours)
     {
     }
 
     void remplit()
     {
-        m_suivant = m_jours.next();
         for (int colonne = m_planning.premiereColonne(); colonne < m_grille.colonnes(); ++colonne) {
             const auto rang = static_cast<std::size_t>(colonne);
             if (m_planning.colonnes.coltot[rang])
@@ -51,7 +42,7 @@ public:
             else
                 compte(colonne, remplitJour(colonne));
         }
-        for (const store::Status &status : {m_jours.status(), m_absences.status(), m_codes.status()})
+        for (const store::Status &status : {m_absences.status(), m_codes.status()})
             m_planning.noteLecture(status);
     }
 
@@ -75,15 +66,10 @@ private:
 
     int remplitJour(int colonne)
     {
-        const QDate date = m_planning.date(colonne);
-        while (m_suivant && m_jours.row().dat < date)
-            m_suivant = m_jours.next();
-        if (!m_suivant || m_jours.row().dat != date) return jourSansLigne(colonne);
-        const JourSit &jour = m_jours.row();
-        const Horaire horaire = horaireDuJour(jour);
-        const int valeur = jour.Val ? jourValide(colonne, horaire) : jourInvalide(colonne, horaire.minutes);
-        m_suivant = m_jours.next();
-        return valeur;
+        const JourSit *jour = m_jours.du(m_planning.date(colonne));
+        if (!jour) return jourSansLigne(colonne);
+        const Horaire horaire = horaireDuJour(*jour);
+        return jour->Val ? jourValide(colonne, horaire) : jourInvalide(colonne, horaire.minutes);
     }
 
     int jourSansLigne(int colonne)
@@ -134,8 +120,7 @@ private:
     int m_rangee;
     AbsencesLigne m_absences;
     CodesAbsence m_codes;
-    store::Rows<JourSit> m_jours;
-    bool m_suivant = false;
+    const SuiteJours &m_jours;
     int m_semaine = 0;
     int m_vu = 0;
     int m_avant = 0;
@@ -178,7 +163,19 @@ private:
     std::vector<int> m_minutes;
 };
 
-void refait(Planning &planning, int nump, const Ligne *dates, int rangee)
+/// The line as the table holds it now, which doesn't move. One that is gone has no controls.
+Ligne ligneLue(Planning &planning, int nump)
+{
+    auto lignes = planning.session.base.ligmois.range("ligmois01", {nump}, {nump});
+    Ligne ligne;
+    ligne.nump = nump;
+    if (lignes.next()) ligne = lignes.row();
+    planning.noteLecture(lignes.status());
+    return ligne;
+}
+
+/// `complete` is the line whose dates changed; without it the line is read.
+void refait(Planning &planning, int nump, const Ligne *complete, int rangee)
 {
     {
         const TravailGrille travail(planning);
@@ -186,8 +183,11 @@ void refait(Planning &planning, int nump, const Ligne *dates, int rangee)
         planning.lecture = {};
         RangeeGardee avant(planning, rangee);
         soustotal(planning, rangee);
-        if (dates) marqueferme(planning, *dates, rangee);
-        rempligne(planning, nump, rangee);
+        const Ligne ligne = complete ? *complete : ligneLue(planning, nump);
+        const SuiteJours jours = joursDeLaGrille(planning, ligne);
+        if (complete) marqueferme(planning, ligne, rangee);
+        rempligne(planning, nump, jours, rangee);
+        marqueControles(planning, ligne, rangee, jours);
         if (!planning.lecture.ok()) avant.remet();
         ajoutetotal(planning, rangee);
     }
@@ -218,24 +218,23 @@ void marqueferme(Planning &planning, const Ligne &ligne, int rangee)
     }
 }
 
-void sommeavant(Planning &planning, int nump, int rangee)
+void sommeavant(Planning &planning, const SuiteJours &jours, int rangee)
 {
     const Periode &periode = planning.periode;
     planning.grille.fixeAvantmois(rangee, 0);
     if (periode.debgrille.month() == periode.moisvu) return;
     const QDate premier(periode.debgrille.year(), periode.debgrille.month(), 1);
-    auto jours = planning.session.base.sitper.range("sitper01", {nump, premier},
-                                                    {nump, periode.debgrille.addDays(-1)}, colonnesLues());
     int somme = 0;
-    while (jours.next())
-        somme += horaireDuJour(jours.row()).minutes;
-    planning.noteLecture(jours.status());
+    for (QDate date = premier; date < periode.debgrille; date = date.addDays(1)) {
+        const JourSit *jour = jours.du(date);
+        if (jour) somme += horaireDuJour(*jour).minutes;
+    }
     planning.grille.fixeAvantmois(rangee, somme);
 }
 
-void rempligne(Planning &planning, int nump, int rangee)
+void rempligne(Planning &planning, int nump, const SuiteJours &jours, int rangee)
 {
-    Remplissage(planning, nump, rangee).remplit();
+    Remplissage(planning, nump, jours, rangee).remplit();
 }
 
 void soustotal(Planning &planning, int rangee)
@@ -286,6 +285,7 @@ void majlignecomplet(Planning &planning, const Ligne &ligne, int rangee)
 void retireRangee(Planning &planning, int rangee)
 {
     const DessinSuspendu dessin(planning.grille);
+    selvide(planning);
     soustotal(planning, rangee);
     planning.grille.retireLigne(rangee);
     ecritTotaux(planning);

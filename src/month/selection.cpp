@@ -16,25 +16,27 @@ void selectionne(Planning &planning, int colonne)
 {
     if (!planning.colonnes.estJour(colonne)) return;
     const Place place{planning.selection.selligne, colonne};
-    planning.selection.couleurs[colonne] = couleursPropres(planning, place);
+    const Couleurs propres = couleursPropres(planning, place);
+    planning.selection.coulfond[colonne] = propres.fond;
+    planning.selection.coultexte[colonne] = propres.encre;
     planning.grille.colore(place.ligne, place.colonne, palette::fondSelection, palette::encreSelection);
 }
 
 void deselectionne(Planning &planning, int colonne)
 {
-    const auto sauvees = planning.selection.couleurs.find(colonne);
-    if (sauvees == planning.selection.couleurs.end()) return;
-    const Couleurs couleurs = sauvees.value();
-    planning.selection.couleurs.erase(sauvees);
-    coloreCase(planning, {planning.selection.selligne, colonne}, couleurs.fond, couleurs.encre);
+    Selection &selection = planning.selection;
+    if (!selection.coulfond.contains(colonne)) return;
+    const QRgb fond = selection.coulfond.take(colonne);
+    const QRgb encre = selection.coultexte.take(colonne);
+    coloreCase(planning, {selection.selligne, colonne}, fond, encre);
 }
 
 void termine(Planning &planning)
 {
     Selection &selection = planning.selection;
-    for (const int colonne : selection.couleurs.keys())
+    for (const int colonne : selection.coulfond.keys())
         deselectionne(planning, colonne);
-    selection.selact = false;
+    selection.selact = selection.selglisse = false;
     selection.seldeb = 0;
     selection.selfin = 0;
 }
@@ -44,7 +46,7 @@ void termine(Planning &planning)
 bool estSelectionnee(const Planning &planning, const Place &place)
 {
     return planning.selection.selact && place.ligne == planning.selection.selligne &&
-           planning.selection.couleurs.contains(place.colonne);
+           planning.selection.coulfond.contains(place.colonne);
 }
 
 void commenceSelection(Planning &planning)

@@ -154,26 +154,26 @@ BatchStep::~BatchStep()
 {
     if (m_session.batch) m_session.batch->m_step = m_outer;
     if (m_kept || !m_session.base.engine.inTransaction()) return;
-    surChaque(QStringLiteral("ROLLBACK TO etape; RELEASE etape"));
+    surChaque(&Engine::rollbackToMark);
     m_session.nivcour = m_nivcour;
 }
 
 void BatchStep::marque()
 {
     m_nivcour = m_session.nivcour;
-    surChaque(QStringLiteral("SAVEPOINT etape"));
+    surChaque(&Engine::setMark);
 }
 
 void BatchStep::keep()
 {
-    surChaque(QStringLiteral("RELEASE etape"));
+    surChaque(&Engine::dropMark);
     m_kept = true;
 }
 
-void BatchStep::surChaque(const QString &sql)
+void BatchStep::surChaque(Status (Engine::*action)())
 {
     for (Engine *engine : {&m_session.base.engine, &m_session.journal.engine})
-        if (engine->inTransaction()) engine->execute(sql).ignore();
+        if (engine->inTransaction()) (engine->*action)().ignore();
 }
 
 QString questionDisque()

@@ -95,7 +95,7 @@ private:
     friend class Batch;
 
     void marque();
-    void surChaque(const QString &sql);
+    void surChaque(store::Status (store::Engine::*action)());
 
     Session &m_session;
     BatchStep *m_outer = nullptr;

@@ -170,6 +170,7 @@ bool ouvrebase(Session &session)
 
 void videsitco(Session &session)
 {
+    ++session.vidagessitco;
     videtable(session, session.journal.sitco);
 }
 

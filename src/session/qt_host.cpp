@@ -1,5 +1,7 @@
 #include "session/qt_host.h"
 
+#include "session/long_message.h"
+
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
@@ -27,6 +29,10 @@ void prepare(QMessageBox &box, QMessageBox::Icon icon, const QString &text, cons
 
 void QtHost::message(const QString &text, const QString &title)
 {
+    if (text.count(QLatin1Char('\n')) > MessageLong::lignesMaxi) {
+        MessageLong(text, title, QApplication::activeWindow()).exec();
+        return;
+    }
     QMessageBox box(QApplication::activeWindow());
     prepare(box, QMessageBox::Information, text, title);
     box.addButton(QMessageBox::Ok);

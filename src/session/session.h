@@ -81,6 +81,7 @@ struct Session {
     QString foncsit;      ///< row operation under way on `sitper`
     QString foncabs;      ///< row operation under way on `absences`
     bool collage = false; ///< a paste is running
+    int vidagessitco = 0; ///< how often `sitco` was emptied
     LignesRejouees rejeu; ///< what the last undo or redo touched
 
     std::unique_ptr<Foncgen> foncgen;

@@ -82,6 +82,12 @@ public:
     virtual void rollback() = 0;
     [[nodiscard]] virtual bool inTransaction() const = 0;
 
+    /// A mark within the transaction, to which what is written after it can be taken back. Marks nest: the
+    /// latest is meant.
+    [[nodiscard]] virtual Status setMark() = 0;
+    [[nodiscard]] virtual Status dropMark() = 0;
+    [[nodiscard]] virtual Status rollbackToMark() = 0;
+
     /// Identity of the row that the last insertion wrote.
     [[nodiscard]] virtual std::int64_t lastInsertedRow() const = 0;
     /// Rows that the last statement changed.

@@ -121,9 +121,8 @@ SqliteEngine::~SqliteEngine()
 
 void SqliteEngine::close()
 {
-    for (auto &statement : m_begin)
-        statement.reset();
-    m_commit.reset();
+    for (auto *statement : {&m_begin[0], &m_begin[1], &m_commit, &m_setMark, &m_dropMark})
+        statement->reset();
     sqlite3_close_v2(m_database);
     m_database = nullptr;
 }
@@ -223,6 +222,21 @@ void SqliteEngine::rollback()
 bool SqliteEngine::inTransaction() const
 {
     return m_database && sqlite3_get_autocommit(m_database) == 0;
+}
+
+Status SqliteEngine::setMark()
+{
+    return runKept(m_setMark, QStringLiteral("SAVEPOINT etape"));
+}
+
+Status SqliteEngine::dropMark()
+{
+    return runKept(m_dropMark, QStringLiteral("RELEASE etape"));
+}
+
+Status SqliteEngine::rollbackToMark()
+{
+    return execute(QStringLiteral("ROLLBACK TO etape; RELEASE etape"));
 }
 
 std::int64_t SqliteEngine::lastInsertedRow() const

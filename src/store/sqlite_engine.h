@@ -27,6 +27,9 @@ public:
     [[nodiscard]] Status commit() override;
     void rollback() override;
     [[nodiscard]] bool inTransaction() const override;
+    [[nodiscard]] Status setMark() override;
+    [[nodiscard]] Status dropMark() override;
+    [[nodiscard]] Status rollbackToMark() override;
     [[nodiscard]] std::int64_t lastInsertedRow() const override;
     [[nodiscard]] int changedRows() const override;
     [[nodiscard]] Status status() const override;
@@ -41,6 +44,8 @@ private:
     sqlite3 *m_database = nullptr;
     std::unique_ptr<Statement> m_begin[2];
     std::unique_ptr<Statement> m_commit;
+    std::unique_ptr<Statement> m_setMark;
+    std::unique_ptr<Statement> m_dropMark;
 };
 
 /// What an SQLite result code means for the callers of the store.

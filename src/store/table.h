@@ -187,6 +187,18 @@ public:
         return outcome;
     }
 
+    /// Deletes every row whose primary key begins with these values; none may be there. The current row is
+    /// not looked at.
+    Status eraseRun(const Key &key)
+    {
+        Slot &statement = deleteRunStatement(key.size());
+        if (!statement) return m_status;
+        int position = 0;
+        for (const KeyValue &value : key)
+            value.bind(*statement, ++position);
+        return run(statement);
+    }
+
     void release() override
     {
         TableBase::release();
@@ -197,6 +209,18 @@ public:
 
     /// The row that `update` wrote last; empty before the first.
     [[nodiscard]] const Bookmark<Row> &lastModified() const { return m_lastModified; }
+    /// Makes the row that `update` has just written current. Within a transaction nobody else can have
+    /// changed it, and it isn't read again.
+    bool goToModified()
+    {
+        if (!m_engine.inTransaction() || m_lastModified.isEmpty()) return goTo(m_lastModified);
+        m_current = m_lastModified.row();
+        m_rowid = m_lastModified.rowid();
+        m_hasRow = m_moved = true;
+        m_atEnd = false;
+        m_status = {};
+        return true;
+    }
     [[nodiscard]] Bookmark<Row> bookmark() const
     {
         return m_hasRow ? Bookmark<Row>(m_rowid, m_current) : Bookmark<Row>();

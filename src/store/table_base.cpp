@@ -44,7 +44,7 @@ std::vector<int> everyColumn(const Schema &schema)
 }
 
 // Kinds of statement, the high part of a shortcut.
-enum Kind { Seek = 1, Step, End, Reread, Insert, Update, Delete };
+enum Kind { Seek = 1, Step, End, Reread, Insert, Update, Delete, DeleteRun };
 
 std::int64_t shortcut(Kind kind, int index = 0, int first = 0, int second = 0)
 {
@@ -296,6 +296,14 @@ TableBase::Slot &TableBase::deleteStatement()
 {
     return cached(m_shortcuts, shortcut(Delete),
                   [&] { return QStringLiteral("DELETE FROM %1 WHERE %2").arg(m_schema.table, identity()); });
+}
+
+TableBase::Slot &TableBase::deleteRunStatement(std::size_t parts)
+{
+    return cached(m_shortcuts, shortcut(DeleteRun, static_cast<int>(parts)), [&] {
+        return QStringLiteral("DELETE FROM %1 WHERE %2")
+            .arg(m_schema.table, equality(leading(primary(), parts)));
+    });
 }
 
 } // namespace velmora::store

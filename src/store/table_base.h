@@ -87,6 +87,7 @@ protected:
     [[nodiscard]] Slot &insertStatement();
     [[nodiscard]] Slot &updateStatement();
     [[nodiscard]] Slot &deleteStatement();
+    [[nodiscard]] Slot &deleteRunStatement(std::size_t parts);
 
     [[nodiscard]] const Index &index() const { return m_schema.indexes[static_cast<std::size_t>(m_index)]; }
     [[nodiscard]] const Index &primary() const { return m_schema.indexes.front(); }

@@ -32,6 +32,13 @@ TEST(CommandLine, RefusesWrongUsageWithStatus2AndMakesNothing)
         {"copier", "1", "01/06/2026", "02/06/2026", "--vers", "2"},
         {"couper", "1", "01/06/2026", "--vers", "2", "10/06/2026"},
         {"supprimer", "1", "01/06/2026", "--vers", "2", "10/06/2026"},
+        {"ligne"},
+        {"ligne", "nouvelle", "X"},
+        {"ligne", "controles", "1", "--semaine", "48h99"},
+        {"ligne", "controles", "1", "--repos", "-1h00"},
+        {"ligne", "controles", "1", "--quinzaine", "4"},
+        {"ligne", "controles", "1", "--pause", "100"},
+        {"ligne", "fermer", "1", "01/06/2026", "--6jours"},
     };
     const QByteArray before = program.fingerprint();
     for (const QStringList &words : lines) {
@@ -62,7 +69,7 @@ TEST(CommandLine, TellsEveryCommandInTheHelp)
     const Outcome run = program.run({"--aide"}, {});
     EXPECT_EQ(run.status, 0);
     for (const char *command : {"init", "demo", "mois", "statut", "saisie", "copier", "couper", "supprimer",
-                                "annuler", "refaire", "journal"})
+                                "annuler", "refaire", "journal", "ligne nouvelle", "ligne liste"})
         EXPECT_TRUE(run.out.contains(QStringLiteral("velmora ") + QLatin1String(command))) << command;
 }
 

@@ -1,87 +1,16 @@
 #include "month/fplan.h"
 
-#include "entry/partielm.h"
-#include "support/workstation.h"
+#include "month/open_form.h"
+#include "support/modal.h"
 
-#include <QApplication>
-#include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
-#include <QSignalSpy>
-#include <QTest>
 
 namespace velmora::test
 {
 namespace
 {
-
-const QDate june3(2026, 6, 3);
-
-/// An open month on two lines, shown off screen and loaded.
-class FplanTest : public testing::Test
-{
-protected:
-    Workstation station;
-    Session &session = station.session;
-    std::unique_ptr<Fplan> form;
-
-    void SetUp() override
-    {
-        station.addLine(1, QStringLiteral("ANNE"));
-        station.addLine(2, QStringLiteral("BERNARD"), QDate(2026, 5, 1), QDate(2026, 6, 10));
-        station.addDay(1, june3, 480, 1080, 720, 840);
-        station.addDay(2, june3, 1320, 360);
-    }
-
-    void openMonth()
-    {
-        session.moisvue = 6;
-        session.anvue = 2026;
-        form = std::make_unique<Fplan>(session);
-        QSignalSpy ready(form.get(), &MonthView::ready);
-        form->resize(1366, 700);
-        form->show();
-        ASSERT_TRUE(ready.wait(5000));
-        settle();
-    }
-
-    /// Lets the one-shot timers run.
-    static void settle() { QTest::qWait(30); }
-
-    VueGrille *grid() { return form->findChild<VueGrille *>(QStringLiteral("mg")); }
-    Planning &planning() { return form->planning(); }
-    int column(const QDate &date) { return planning().colonnes.colonneDe(date); }
-    QString cell(int nump, const QDate &date)
-    {
-        return planning().grille.lit(planning().grille.ligneDe(nump), column(date)).texte;
-    }
-    QPoint at(int nump, const QDate &date)
-    {
-        const auto index = grid()->modele().index(ModeleGrille::ligneVue(planning().grille.ligneDe(nump)),
-                                                  ModeleGrille::colonneVue(column(date)));
-        grid()->scrollTo(index);
-        return grid()->visualRect(index).center();
-    }
-    void click(int nump, const QDate &date)
-    {
-        QTest::mouseClick(grid()->viewport(), Qt::LeftButton, {}, at(nump, date));
-        settle();
-    }
-    QString status() { return form->findChild<QLabel *>(QStringLiteral("statut"))->text(); }
-
-    /// Acts on the entry dialog that the next event opens.
-    void withDialog(const std::function<void(Partielm &)> &act)
-    {
-        QTimer::singleShot(60, form.get(), [act] {
-            auto *dialog = qobject_cast<Partielm *>(QApplication::activeModalWidget());
-            ASSERT_NE(dialog, nullptr);
-            QTest::qWait(20);
-            act(*dialog);
-        });
-    }
-};
 
 void type(Partielm &dialog, const char *field, const char *text)
 {
@@ -134,6 +63,32 @@ TEST_F(FplanTest, AClickOnANameChangesTheLineAndKeepsTheColumn)
     EXPECT_EQ(planning().curseur.colonne, before);
 }
 
+TEST_F(FplanTest, AClickOnANameOrItsMarkShowsTheReportOfALineWithControls)
+{
+    auto &ligmois = session.base.ligmois;
+    ASSERT_TRUE(ligmois.first());
+    ASSERT_TRUE(ligmois.edit().ok());
+    ligmois.values().bcontrolr = true;
+    ligmois.values().nrep = 16;
+    ASSERT_TRUE(ligmois.update().ok());
+    openMonth();
+    QHeaderView *const names = grid()->verticalHeader();
+    QString report = QStringLiteral("        ANNE\n");
+    for (QDate monday = planning().periode.debgrille; monday <= planning().periode.fingrille.addDays(1);
+         monday = monday.addDays(7))
+        report += QStringLiteral("\nDéfaut Repos Hebdo du %1 au %2\n")
+                      .arg(Foncgen::dtoc(monday), Foncgen::dtoc(monday.addDays(14)));
+    for (const int x : {5, names->width() - 3}) {
+        station.host.expectMessage(report);
+        QTest::mouseClick(names->viewport(), Qt::LeftButton, {}, {x, grid()->rowViewportPosition(0) + 4});
+        settle();
+    }
+    QTest::mouseClick(names->viewport(), Qt::LeftButton, {}, {5, grid()->rowViewportPosition(1) + 4});
+    settle();
+    EXPECT_EQ(planning().curseur.ligne, 4);
+    EXPECT_EQ(planning().grille.lit(3, Grille::colonneEtat).texte, QStringLiteral("Pb"));
+}
+
 TEST_F(FplanTest, ADragSelectsDaysOfOneLineAndAMoveGivesTheirColoursBack)
 {
     openMonth();
@@ -149,7 +104,7 @@ TEST_F(FplanTest, ADragSelectsDaysOfOneLineAndAMoveGivesTheirColoursBack)
     };
     drag(QDate(2026, 6, 4), QDate(2026, 6, 8)); // over the week's total
     EXPECT_TRUE(planning().selection.selact);
-    EXPECT_EQ(planning().selection.couleurs.size(), 5);
+    EXPECT_EQ(planning().selection.coulfond.size(), 5);
     EXPECT_EQ(planning().curseur, (Place{3, column(QDate(2026, 6, 4))}));
     QTest::keyClick(grid(), Qt::Key_Down);
     settle();
@@ -300,6 +255,7 @@ TEST_F(FplanTest, AMonthWithoutLinesSaysSoAndCloses)
         QStringLiteral("vous devez ouvrir au moins une ligne de planning pour cette période !"));
     form = std::make_unique<Fplan>(session);
     QSignalSpy closed(form.get(), &MonthView::closed);
+    whenModal([](QWidget &newLine) { QTest::keyClick(&newLine, Qt::Key_Escape); });
     form->show();
     EXPECT_TRUE(closed.wait(2000));
 }

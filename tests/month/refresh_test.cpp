@@ -43,6 +43,7 @@ TEST_F(RefreshTest, OpensTheCommandsThatEachKindOfCellAllows)
     OpenMonth month(station, 6, 2026);
     for (const Case &one : cases) {
         month.planning.pressepapiers.clipbk.resize(static_cast<std::size_t>(one.held));
+        month.planning.pressepapiers.vidages = month.planning.session.vidagessitco;
         month.moveTo(1, one.date);
         const EtatCommandes &etat = month.planning.commandes;
         EXPECT_EQ(etat.couper, one.cut) << one.date.toString(Qt::ISODate).toStdString();

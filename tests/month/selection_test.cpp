@@ -56,6 +56,14 @@ TEST_F(SelectionTest, GrowsAndShrinksOnDaysAlone)
         press(4);
         for (const int day : one.pointer)
             glisseSelection(*planning, day == 0 ? column(7) + 1 : column(day));
+        // Back on the anchor is the empty state, its end before its start; going out again colours all but
+        // the anchor. Wanted.
+        if (one.pointer == std::vector{6, 4}) {
+            EXPECT_EQ(planning->selection.selfin, column(4) - 1);
+        }
+        if (one.pointer == std::vector{6, 4, 7}) {
+            EXPECT_EQ(planning->selection.coulfond.size(), 4);
+        }
         finitSelection(*planning);
         const Selection &selection = planning->selection;
         EXPECT_EQ(selection.selact, one.last != 0);

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -47,6 +48,22 @@ TEST(QtHostTest, WhatAUserTypedIsNotReadAsMarkup)
         EXPECT_EQ(box.findChildren<QPushButton *>().size(), 1);
     });
     host.message("<b>Équipe</b>", "VELMORA");
+}
+
+TEST(QtHostTest, ALongMessageScrollsOnASmallScreenAndEnterOrEscapeEndIt)
+{
+    const QString text = QStringLiteral("Défaut Repos Hebdo\n").repeated(200);
+    for (const int key : {Qt::Key_Return, Qt::Key_Escape}) {
+        QtHost host;
+        onModal([&](QWidget &box) {
+            EXPECT_EQ(box.windowTitle(), "Velmora");
+            EXPECT_LE(box.height(), 700);
+            EXPECT_EQ(control<QPlainTextEdit>(box, "texte").toPlainText(), text);
+            QTest::keyClick(&box, static_cast<Qt::Key>(key));
+            EXPECT_FALSE(box.isVisible());
+        });
+        host.message(text, "Velmora");
+    }
 }
 
 TEST(QtHostTest, AGivenAnswerAsksNobody)

@@ -23,6 +23,17 @@ inline void onModal(std::function<void(QWidget &)> act)
     });
 }
 
+/// The same for a window that opens later, after timers or other windows.
+inline void whenModal(std::function<void(QWidget &)> act)
+{
+    QTimer::singleShot(5, qApp, [act = std::move(act)] {
+        QWidget *const modal = QApplication::activeModalWidget();
+        if (!modal) return whenModal(act);
+        act(*modal);
+        if (modal == QApplication::activeModalWidget()) modal->close();
+    });
+}
+
 /// A control by its name, which has to be there.
 template <class Widget> Widget &control(const QWidget &form, const char *name)
 {

@@ -32,11 +32,17 @@ public:
     OtherProcess &operator=(const OtherProcess &) = delete;
 
     /// Lets the process go and waits for its exit code; -1 if it didn't end by itself.
-    int run()
+    int run() { return start() ? wait() : -1; }
+
+    /// The two halves of `run`, for processes that work side by side.
+    bool start()
     {
         const char go = 1;
+        return m_child > 0 && write(m_gate[1], &go, 1) == 1;
+    }
+    int wait()
+    {
         int outcome = 0;
-        if (m_child <= 0 || write(m_gate[1], &go, 1) != 1) return -1;
         waitpid(m_child, &outcome, 0);
         m_child = 0;
         return WIFEXITED(outcome) ? WEXITSTATUS(outcome) : -1;

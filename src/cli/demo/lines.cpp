@@ -68,18 +68,20 @@ QString nom(const Emploi &emploi, int personne)
              QString(QLatin1Char(initiales[rang % initiales.size()])));
 }
 
-/// Limits on every second line.
-void limite(Ligne &ligne)
+/// Limits on every second line. A night has its pauses paid and may be longer than a day.
+void limite(Ligne &ligne, Genre genre)
 {
     if (ligne.nump % 2 != 0) return;
-    ligne.bcontrolh = ligne.b6j = ligne.bcontrolr = ligne.bcontrolp = true;
+    const bool nuitee = genre == Genre::Nuit;
+    ligne.bcontrolh = ligne.b6j = ligne.bcontrolr = true;
+    ligne.bcontrolp = !nuitee;
     ligne.maxs = 48 * 60;
-    ligne.maxj = 10 * 60;
+    ligne.maxj = (nuitee ? 12 : 10) * 60;
     ligne.ampj = 13 * 60;
     ligne.reposmin = 11 * 60;
     ligne.nrep = 4;
     ligne.nrepd = 1;
-    ligne.pause = 20;
+    ligne.pause = nuitee ? 0 : 20;
 }
 
 /// Most lines are older than the planning and open; a few begin or end within it, and all are open on the
@@ -114,7 +116,7 @@ std::vector<LigneDemo> lignesDemo(const Demo &demo, Hasard &hasard)
         une.genre = emploi.genre;
         une.dossier = emploi.dossier;
         une.decalage = 7 * hasard.jusqua(2);
-        limite(une.ligne);
+        limite(une.ligne, une.genre);
         date(une.ligne, demo, hasard);
         lignes.push_back(une);
     }

@@ -27,7 +27,7 @@ const Roulement &roulement(Genre genre)
         {Genre::Jour, {"000.11.11..000", {"6h45-12h00 12h30-14h15", "13h45-18h30 19h00-21h15"}}},
         {Genre::Bureau, {"00000..00000..", {"9h00-12h30 13h30-17h00"}}},
         {Genre::Coupe, {"001..0000.10..", {"8h00-12h00 17h00-20h30", "7h00-10h00 11h00-14h00 18h00-20h00"}}},
-        {Genre::Nuit, {"00..111..00...", {"20h30-6h30", "20h00-22h30 23h00-6h45"}}},
+        {Genre::Nuit, {"00..11...00..1", {"20h30-6h30", "20h00-22h30 23h00-6h45"}}},
         {Genre::Partiel, {"00.00..11.11..", {"8h30-12h30", "16h00-20h00"}}},
     };
     return tous.at(genre);
@@ -51,6 +51,15 @@ JourSit jourType(const QStringList &textes, const QDateTime &datj)
     JourSit jour = jourDeSaisie(saisie->textes(), saisie->total());
     jour.datj = datj;
     return jour;
+}
+
+/// Where somebody is needed every day, a rest now and then gives way to a replacement: that is what breaks
+/// the limits of some lines.
+char signeDuJour(char signe, Genre genre, Hasard &hasard)
+{
+    constexpr int remplacements = 3;
+    const bool libre = signe == '.' && genre != Genre::Bureau;
+    return libre && hasard.chance(remplacements) ? '0' : signe;
 }
 
 /// Rank of a date in the cycle of two weeks, which is the same whatever the planning's first date.
@@ -82,7 +91,7 @@ std::vector<JourSit> Horaires::jours(const LigneDemo &ligne, const Intervalle &i
     const char *cycle = roulement(ligne.genre).cycle;
     std::vector<JourSit> lignes;
     for (QDate date = intervalle.premier; date <= intervalle.dernier; date = date.addDays(1)) {
-        const char signe = cycle[rangDansLeCycle(date, ligne.decalage)];
+        const char signe = signeDuJour(cycle[rangDansLeCycle(date, ligne.decalage)], ligne.genre, hasard);
         if (signe == '.' || (ligne.genre == Genre::Bureau && m_feriees.count(date) > 0)) continue;
         const Variantes &variantes = m_variantes.at({ligne.genre, signe - '0'});
         const int variante = hasard.chance(horsHabitude) ? hasard.entre(1, 4) : 0;
