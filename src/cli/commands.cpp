@@ -147,4 +147,69 @@ const std::vector<Commande> &commandes()
 {
     static const std::vector<Commande> toutes = [] {
         std::vector<Commande> reunies;
-        for (const auto famille : {commandesBase, commandesMois, commandesControle, commandesLignes, commandesCalendrier, commandesDossiers})
+        for (const auto famille : {commandesBase, commandesMois, commandesControle, commandesLignes,
+                                   commandesAbsences, commandesCodes, commandesCalendrier, commandesDossiers})
+            for (const Commande &commande : famille())
+                reunies.push_back(commande);
+        return reunies;
+    }();
+    return toutes;
+}
+
+bool LigneCommande::aide() const
+{
+    return arguments.a("aide") || arguments.a("help");
+}
+
+bool LigneCommande::version() const
+{
+    return arguments.a("version");
+}
+
+bool LigneCommande::demandeFenetre() const
+{
+    return erreur.isEmpty() && !commande && !aide() && !version();
+}
+
+bool LigneCommande::dessine() const
+{
+    return erreur.isEmpty() && !aide() && arguments.a("png");
+}
+
+LigneCommande analyse(const QStringList &ligne)
+{
+    LigneCommande analysee{Arguments(ligne, toutesOptions()), nullptr, {}, {}};
+    const Arguments &arguments = analysee.arguments;
+    if (!arguments.mots().isEmpty()) analysee.commande = cherche(arguments.mots());
+    analysee.erreur = arguments.erreur();
+    if (analysee.erreur.isEmpty()) analysee.erreur = fauteCommande(analysee);
+    if (analysee.erreur.isEmpty()) analysee.erreur = fauteOptions(analysee);
+    if (analysee.erreur.isEmpty()) analysee.poste = posteDe(arguments);
+    return analysee;
+}
+
+int execute(const LigneCommande &ligne, const Peintre &peint)
+{
+    if (ligne.aide()) return imprimeAide(), reussi;
+    if (!ligne.erreur.isEmpty()) return mauvaisUsage(ligne.erreur);
+    if (ligne.version()) return imprime(QStringLiteral("velmora " VELMORA_VERSION)), reussi;
+    CliHost host(ligne.poste.aujourdhui, ligne.poste.reponse);
+    const Appel appel{ligne.arguments, ligne.arguments.mots().mid(motsDuNom(*ligne.commande)), ligne.poste,
+                      host, peint};
+    const int statut = ligne.commande->execute(appel);
+    return statut == reussi && host.refusee() ? refuse : statut;
+}
+
+int refus(const QString &phrase)
+{
+    imprimeErreur(phrase);
+    return refuse;
+}
+
+int mauvaisUsage(const QString &phrase)
+{
+    imprimeErreur(phrase + QStringLiteral("\n« velmora --aide » montre les commandes."));
+    return malDit;
+}
+
+} // namespace velmora::cli

@@ -10,6 +10,8 @@ std::vector<Commande> commandesBase();
 std::vector<Commande> commandesMois();
 std::vector<Commande> commandesControle();
 std::vector<Commande> commandesLignes();
+std::vector<Commande> commandesAbsences();
+std::vector<Commande> commandesCodes();
 std::vector<Commande> commandesCalendrier();
 std::vector<Commande> commandesDossiers();
 

@@ -26,6 +26,12 @@ inline QString texteChamp(const QString &valeur)
     return valeur;
 }
 
+/// A null is an empty field.
+inline QString texteChamp(const std::optional<int> &valeur)
+{
+    return valeur ? texteChamp(*valeur) : QString();
+}
+
 /// Every field of a row, in the order of its table.
 template <class Row> QStringList textesRangee(const Row &row)
 {

@@ -44,6 +44,7 @@ void litLignes(Session &session, const QStringList &numeros, Demande &demande)
     auto lignes = session.base.ligmois.range("ligmois02", {}, {});
     while (lignes.next())
         demande.lignes.push_back(lignes.row());
+    if (!lignes.status().ok()) demande.refus = QStringLiteral("Les lignes ne peuvent pas être lues.");
 }
 
 Demande litDemande(Session &session, const Appel &appel)
@@ -61,9 +62,10 @@ void imprimeControle(Session &session, const Demande &demande, const Ligne &lign
     if (!controle.presents) return;
     imprimeChamps({QString::number(ligne.nump), ligne.nom, Foncgen::dtoc(controle.echec),
                    etatDe(controle, demande.debut, session.host.today()).texte});
+    if (!rapport) return;
     const QString texte = rapportcontrole(ligne, jours, demande.debut, demande.fin);
     // The text ends its own last line.
-    if (rapport && !texte.isEmpty()) imprime(texte.chopped(1));
+    if (!texte.isEmpty()) imprime(texte.chopped(1));
 }
 
 int controle(Session &session, const Appel &appel)

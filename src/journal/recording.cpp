@@ -213,11 +213,10 @@ Status valsit(Session &session, int nump, const QDate &premier, const QDate &der
 {
     auto &sitper = session.base.sitper;
     sitper.setIndex("sitper01");
-    for (QDate jour = premier; jour <= dernier; jour = jour.addDays(1)) {
-        if (!sitper.seek(Cmp::Eq, {nump, jour})) {
-            if (!sitper.status().ok()) return sitper.status();
-            continue;
-        }
+    QDate cherche = premier;
+    while (cherche <= dernier && sitper.seek(Cmp::Ge, {nump, cherche}) && sitper.row().nump == nump &&
+           sitper.row().dat <= dernier) {
+        cherche = sitper.row().dat.addDays(1);
         Status status = editgarde(session, sitper);
         if (status.ok()) {
             sitper.values().Val = valeur;
@@ -229,7 +228,7 @@ Status valsit(Session &session, int nump, const QDate &premier, const QDate &der
         else if (!status.ok())
             return status;
     }
-    return {};
+    return cherche <= dernier ? sitper.status() : Status{};
 }
 
 } // namespace velmora

@@ -1,5 +1,6 @@
 #include "launcher/window.h"
 
+#include "absences/fcodabs.h"
 #include "calendar/ferie1.h"
 #include "calendar/fparcg.h"
 #include "cli/start.h"
@@ -44,6 +45,12 @@ private:
     bool m_dit = false;
 };
 
+void ouvreCodesAbsence(Session &session, QWidget *parent)
+{
+    Fcodabs dialogue(session, {}, parent);
+    dialogue.exec();
+}
+
 /// Shows a window that needs nothing but the session until it closes.
 template <class Fenetre> void montre(Session &session, QWidget *parent)
 {
@@ -62,6 +69,7 @@ std::unique_ptr<Mdivel> fenetrePrincipale(Session &session)
 {
     Ouvertures ouvertures;
     ouvertures.mois = nouveauMois;
+    ouvertures.codesAbsence = ouvreCodesAbsence;
     ouvertures.parametres = montre<Fparcg>;
     ouvertures.dossiers = montre<Groupt>;
     ouvertures.feries = ouvreferies;

@@ -20,6 +20,7 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QPointer>
 #include <QProgressBar>
 
 #include <chrono>
@@ -162,8 +163,6 @@ void Fplan::relieGrille()
     });
     connect(m_mg, &VueGrille::sansEffet, this, &Fplan::lanceCycle);
     connect(m_mg, &VueGrille::menuDemande, this, &Fplan::montreMenuGrille);
-    connect(m_code, &SaisieCode::codeTape, this, &Fplan::verifieCode);
-    connect(m_code, &SaisieCode::abandon, this, &Fplan::finitCode);
 }
 
 void Fplan::lanceCycle()
@@ -179,10 +178,12 @@ void Fplan::celluleAtteinte()
 }
 
 /// Puts `ligmois` on the line of the current cell: the refresh cycle may not have run since the last move.
-void Fplan::positionneLigne()
+/// False when the line is gone; `ligmois` then stays where it was.
+bool Fplan::positionneLigne()
 {
     m_session.base.ligmois.setIndex("ligmois01");
-    m_session.base.ligmois.seek(store::Cmp::Eq, {m_planning.grille.numligne(m_planning.curseur.ligne)});
+    return m_session.base.ligmois.seek(store::Cmp::Eq,
+                                       {m_planning.grille.numligne(m_planning.curseur.ligne)});
 }
 
 void Fplan::refaitLigne(int ligne)
@@ -210,6 +211,7 @@ void Fplan::relieMenus()
     m_menus.lie(QStringLiteral("mnusup"), this, &Fplan::supprime);
     m_menus.lie(QStringLiteral("mnusais"), this, &Fplan::saisitHeures);
     relieLignes();
+    relieAbsences();
     m_menus.lie(QStringLiteral("mnuaid"), this,
                 [this] { ouvreaide(m_session, QStringLiteral("sommaire.htm")); });
     m_menus.lie(QStringLiteral("mnuferm"), this, [this] { close(); });
@@ -244,12 +246,17 @@ void Fplan::charge()
 
 void Fplan::rafraichit()
 {
-    cycle(m_planning, [this] {
-        m_date->setText(QStringLiteral("le :") + Foncgen::dtoc(m_planning.dateStatut));
-        m_statut->setText(m_planning.texteStatut);
-        m_statut->setToolTip(m_planning.texteStatut.toHtmlEscaped());
-    });
-    montreCommandes();
+    // A report keeps the cycle waiting; the month may be gone when it returns.
+    const QPointer<Fplan> vivante(this);
+    cycle(
+        m_planning,
+        [this] {
+            m_date->setText(QStringLiteral("le :") + Foncgen::dtoc(m_planning.dateStatut));
+            m_statut->setText(m_planning.texteStatut);
+            m_statut->setToolTip(m_planning.texteStatut.toHtmlEscaped());
+        },
+        [this] { montreCommandes(); });
+    if (!vivante || m_ferme) return;
     if (m_mg->isVisible() && m_mg->isEnabled()) m_mg->setFocus();
 }
 
@@ -363,16 +370,6 @@ void Fplan::commenceCode(const QString &touche)
     m_code->commence(m_mg->rectCurseur(), touche,
                      m_planning.grille.lit(place.ligne, Grille::colonneNom).texte +
                          QStringLiteral("  à dater ") + Foncgen::dtoc(m_planning.date(place.colonne)));
-}
-
-void Fplan::verifieCode(const QString &code)
-{
-    if (cherchecode(m_session, code)) {
-        m_session.abscode = code;
-        return finitCode();
-    }
-    m_session.host.message(QStringLiteral("code Absence non autorisé ou erroné!"), titre);
-    m_code->recommence();
 }
 
 void Fplan::finitCode()

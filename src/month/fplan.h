@@ -42,6 +42,7 @@ private:
     void relie();
     void relieMenus();
     void relieLignes();
+    void relieAbsences();
     void mesure();
 
     void charge();
@@ -53,7 +54,7 @@ private:
     void relieGrille();
     void lanceCycle();
     void celluleAtteinte();
-    void positionneLigne();
+    bool positionneLigne();
     void refaitLigne(int ligne);
 
     void saisitHeures();
@@ -63,6 +64,7 @@ private:
     void rejoue(void (*replay)(Session &));
     void commenceCode(const QString &touche);
     void verifieCode(const QString &code);
+    void saisitAbsence();
     void finitCode();
     void montreMenuGrille(const QPoint &point);
     void choisitTotaux(bool centiemes);

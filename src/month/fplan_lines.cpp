@@ -66,11 +66,8 @@ void Fplan::surLigne(const std::function<void(const Ligne &)> &commande)
     m_timer2.stop();
     m_timer3.stop();
     m_planning.suivi = false;
-    auto &ligmois = m_session.base.ligmois;
-    ligmois.setIndex("ligmois01");
-    const int nump = m_planning.grille.numligne(m_planning.curseur.ligne);
-    if (ligmois.seek(store::Cmp::Eq, {nump}))
-        commande(Ligne(ligmois.row()));
+    if (positionneLigne())
+        commande(Ligne(m_session.base.ligmois.row()));
     else if (m_planning.grille.estLigne(m_planning.curseur.ligne))
         ditErreurBase(m_planning);
     termineLigne();

@@ -82,6 +82,7 @@ void VueGrille::montreGrille()
 /// A click on a line's fixed columns asks for its report; the cursor keeps its column.
 void VueGrille::montreRapport(int section)
 {
+    if (!m_planning.suivi) return;
     emit gesteCommence();
     m_planning.rapportdemande = true;
     const QModelIndex but = m_modele.index(section, ModeleGrille::colonneVue(m_planning.curseur.colonne));

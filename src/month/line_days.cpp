@@ -42,6 +42,7 @@ Etendue etendueLue(const Periode &periode, const Ligne &ligne)
 
 } // namespace
 
+/// One range serves cells and rules: a failure of its reading counts as one of the grid's.
 SuiteJours joursDeLaGrille(Planning &planning, const Ligne &ligne)
 {
     const Etendue etendue = etendueLue(planning.periode, ligne);

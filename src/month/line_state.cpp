@@ -3,6 +3,9 @@
 #include "rules/controls.h"
 #include "rules/walk.h"
 #include "session/batch.h"
+#include "session/records.h"
+
+#include <utility>
 
 namespace velmora
 {
@@ -59,6 +62,7 @@ void refaitControles(Planning &planning, const Ligne &ligne)
     const DessinSuspendu dessin(planning.grille);
     marqueControles(planning, ligne, rangee,
                     joursControles(planning.session, ligne, periode.debgrille, periode.fingrille));
+    jeuaudate(planning.session, planning.session.host.today());
 }
 
 void montreRapport(Planning &planning, const Ligne &ligne)

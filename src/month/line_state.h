@@ -9,7 +9,7 @@ namespace velmora
 /// What a state cell shows of a verdict.
 struct Etat {
     QString texte;
-    QRgb encre = palette::encreFixe;
+    QRgb encre = palette::encre;
 };
 
 /// The state of a line with controls in a view that begins at a date: "Pb" for a failure after today, in its

@@ -154,6 +154,8 @@ bool chargi(Planning &planning, const Chargement &chargement)
             if (!planning.lecture.ok()) ditErreurBase(planning);
             return false;
         }
+        // The verdicts leave the set of today selected.
+        if (planning.controlpresent) jeuaudate(planning.session, planning.session.host.today());
         planning.curseur = {Grille::lignesFixes, colonneDepart(planning)};
         planning.colprec = planning.curseur.colonne;
         planning.rowprec = planning.curseur.ligne;

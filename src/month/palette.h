@@ -19,7 +19,7 @@ inline constexpr QRgb bande2 = 0xffffe0c0;
 inline constexpr QRgb ferie = 0xfffdffea;
 inline constexpr QRgb encreControle1 = 0xffc00000; ///< the mark of a failure that lies ahead
 inline constexpr QRgb encreControle2 = 0xff1e7a34; ///< the mark of a line in order
-inline constexpr QRgb fondTotal = 0xffdde6ee; ///< the total row
+inline constexpr QRgb fondTotal = 0xffdde6ee;      ///< the total row
 inline constexpr QRgb encreTotal = 0xff12324f;
 
 } // namespace velmora::palette

@@ -95,11 +95,18 @@ void majcommandes(Planning &planning)
     planning.commandes.refaire = planning.session.peutrefaire;
 }
 
-void cycle(Planning &planning, const std::function<void()> &montreStatut)
+void cycle(Planning &planning, const std::function<void()> &montreStatut,
+           const std::function<void()> &montreCommandes)
 {
     planning.suivi = true;
-    if (!planning.grille.estLigne(planning.curseur.ligne)) return sansLigne(planning, montreStatut);
-    const Ligne ligne = suitCurseur(planning, montreStatut);
+    const bool surLigne = planning.grille.estLigne(planning.curseur.ligne);
+    Ligne ligne;
+    if (surLigne)
+        ligne = suitCurseur(planning, montreStatut);
+    else
+        sansLigne(planning, montreStatut);
+    if (montreCommandes) montreCommandes();
+    if (!surLigne) return;
     // The grid draws again: the report stands over the row that it is about.
     if (std::exchange(planning.rapportdemande, false)) montreRapport(planning, ligne);
 }

@@ -14,7 +14,9 @@ void majcommandes(Planning &planning);
 /// The refresh cycle around the current cell: reads its line, writes the status text, moves the highlight and
 /// decides which commands are open; then shows the line's report if it was asked for. `montreStatut` shows
 /// the status text, before anything is said.
-void cycle(Planning &planning, const std::function<void()> &montreStatut = {});
+/// `montreCommandes` shows the commands, before a report that was asked for.
+void cycle(Planning &planning, const std::function<void()> &montreStatut = {},
+           const std::function<void()> &montreCommandes = {});
 
 /// Tells that the tables can't be read.
 void ditErreurBase(const Planning &planning);

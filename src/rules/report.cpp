@@ -63,7 +63,9 @@ std::vector<Bloc> blocs(const Ligne &ligne)
          [](const Semaine &semaine) { return semaine.semamp; },
          toujours(QStringLiteral(" => Amplitude journée\n"))},
         {QStringLiteral("\n Pauses non respectées\n"),
-         [](const Semaine &semaine) { return semaine.sempause; }, toujours(QStringLiteral(" => Pauses\n"))},
+         // A day's verdict doesn't look whether there is a minimum; the report does.
+         [pause = ligne.pause](const Semaine &semaine) { return pause > 0 && semaine.sempause; },
+         toujours(QStringLiteral(" => Pauses\n"))},
     };
 }
 

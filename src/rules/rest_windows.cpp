@@ -74,7 +74,7 @@ std::vector<FenetreRepos> fenetresEnDefaut(const Ligne &ligne, const SuiteJours 
 {
     constexpr int semaine = 7;
     std::vector<FenetreRepos> defauts;
-    if (!ligne.bcontrolr) return defauts;
+    if (!ligne.bcontrolr || !premierLundi.isValid()) return defauts;
     Cumul cumul;
     const QDate dernier = dernierLundi.addDays(semaine);
     for (QDate debut = premierLundi; debut <= dernier; debut = debut.addDays(semaine)) {

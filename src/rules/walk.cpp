@@ -26,6 +26,7 @@ public:
     [[nodiscard]] Parcours fait() &&
     {
         const Lundis &lundis = m_parcours.lundis;
+        if (!lundis.premier.isValid()) return std::move(m_parcours);
         for (QDate date = lundis.premier; date <= lundis.dernier; date = date.addDays(1)) {
             if (date.dayOfWeek() == Qt::Monday) commenceSemaine(date);
             passe(date);

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include <algorithm>
-
 namespace velmora
 {
 

@@ -21,6 +21,7 @@ public:
     /// The row of a valid date, or null.
     [[nodiscard]] const JourSit *du(const QDate &date) const
     {
+        if (m_places.empty() || !date.isValid()) return nullptr;
         const qint64 rang = date.toJulianDay() - m_premier.toJulianDay();
         if (rang < 0 || rang >= static_cast<qint64>(m_places.size())) return nullptr;
         const int place = m_places[static_cast<std::size_t>(rang)];
@@ -34,8 +35,8 @@ private:
     std::vector<JourSit> m_jours;
 };
 
-/// Reads a line's days of the run's dates, those columns of them. Rows that can't be read are missing in the
-/// run, and the status says so.
+/// Reads a line's days of the run's dates, those columns of them. From the first row that can't be read on,
+/// all are missing in the run, and the status says so.
 [[nodiscard]] store::Status litSuite(Session &session, int nump, const std::vector<int> &colonnes,
                                      SuiteJours &jours);
 

@@ -65,7 +65,12 @@ struct Session {
     QString saisnom;
     float saisligne = 0;
 
-    QString abscode; ///< code typed for an absence entry
+    // What the absence entry is given. The day entry's values keep their own place.
+    QString absdebut;   ///< first day
+    QString absreprise; ///< day of return; an entry leaves the last day of its absence
+    QString abscode;    ///< code typed in the month, as the codes hold it, or empty
+    int absligne = 0;   ///< `nump`
+    QString absnom;     ///< name of the line
 
     // What the print and export dialogs are given; each command has its own roles for them.
     QDate impdate;

@@ -69,7 +69,8 @@ TEST(CommandLine, TellsEveryCommandInTheHelp)
     const Outcome run = program.run({"--aide"}, {});
     EXPECT_EQ(run.status, 0);
     for (const char *command : {"init", "demo", "mois", "statut", "saisie", "copier", "couper", "supprimer",
-                                "annuler", "refaire", "journal", "ligne nouvelle", "ligne liste"})
+                                "annuler", "refaire", "journal", "ligne nouvelle", "ligne liste", "absence",
+                                "absences", "code liste", "code ajouter", "code modifier", "code supprimer"})
         EXPECT_TRUE(run.out.contains(QStringLiteral("velmora ") + QLatin1String(command))) << command;
 }
 

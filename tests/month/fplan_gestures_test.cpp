@@ -2,6 +2,7 @@
 
 #include "month/open_form.h"
 
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
 #include <QScrollBar>

@@ -19,8 +19,8 @@ TEST(StateOfALine, DependsOnTodayAndOnTheViewsFirstDate)
     };
     for (const Case &one : {
              Case{{2026, 6, 16}, false, "Pb", palette::encreControle1},
-             Case{{2026, 6, 15}, false, "Pb", palette::encreFixe},
-             Case{{2026, 5, 4}, false, "Pb", palette::encreFixe},
+             Case{{2026, 6, 15}, false, "Pb", palette::encre},
+             Case{{2026, 5, 4}, false, "Pb", palette::encre},
              Case{{2026, 5, 3}, false, "Ok", palette::encreControle2},
              Case{{1900, 1, 1}, false, "Ok", palette::encreControle2},
              Case{{1900, 1, 1}, true, "Pb", palette::encreControle1},

@@ -67,11 +67,12 @@ protected:
     }
     QString status() { return form->findChild<QLabel *>(QStringLiteral("statut"))->text(); }
 
-    /// Acts on the entry dialog that the next event opens.
-    void withDialog(const std::function<void(Partielm &)> &act)
+    /// Acts on the dialog that the next event opens, the day entry unless another is named.
+    template <class Dialog = Partielm>
+    void withDialog(const std::function<void(std::type_identity_t<Dialog> &)> &act)
     {
         QTimer::singleShot(60, form.get(), [act] {
-            auto *dialog = qobject_cast<Partielm *>(QApplication::activeModalWidget());
+            auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
             ASSERT_NE(dialog, nullptr);
             QTest::qWait(20);
             act(*dialog);

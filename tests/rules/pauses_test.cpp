@@ -34,6 +34,11 @@ TEST(Pauses, AreJudgedSliceBySlice)
          {0, 300, 310, 610, 620, 820},
          false},
         // The first break counts again for the empty slice behind it.
+        // A slice that joins the one before leaves the end of the latter where it was.
+        {"a joined slice is measured from its first part's end",
+         20,
+         {0, 60, 60, 240, 200, 260, 280, 640, 660, 800},
+         false},
         {"the same with an empty slice between", 10, {0, 300, 310, 610, 610, 610, 620, 820}, true},
     };
     for (const Case &one : cases) {
