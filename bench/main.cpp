@@ -1,5 +1,7 @@
 #include <benchmark/benchmark.h>
 
+#include <QGuiApplication>
+
 #include <cstdio>
 #include <map>
 #include <string>
@@ -52,7 +54,10 @@ constexpr Ratio ratios[]{
     {"entry of 31 days over bare writing", "BM_Entry/real_time", "BM_BareWriting/real_time"},
     {"undo of it over bare writing", "BM_Undo/real_time", "BM_BareWriting/real_time"},
     {"redo of it over bare writing", "BM_Redo/real_time", "BM_BareWriting/real_time"},
+    {"set print of 996 pages over the bare texts", "BM_PrintSet", "BM_BareTexts"},
     {"paste of 31 days over bare writing", "BM_Paste/real_time", "BM_BareWriting/real_time"},
+    {"export of 996 lines over bare reading", "BM_Export/real_time", "BM_BareMonth/real_time"},
+    {"practised schedules over bare grouping", "BM_Practised", "BM_BareGrouping"},
 };
 
 } // namespace
@@ -61,6 +66,9 @@ constexpr Ratio ratios[]{
 int main(int argc, char **argv)
 {
     benchmark::Initialize(&argc, argv);
+    // Pages need fonts, and fonts an application.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
     velmora::bench::KeepingReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     for (const auto &[what, measured, reference] : velmora::bench::ratios)

@@ -15,7 +15,7 @@ public:
     bool question(const QString &, const QString &) override { return answer; }
     QDate today() const override { return {2026, 6, 15}; }
     QDateTime now() const override { return {today(), QTime(8, 0)}; }
-    void open(const QString &) override {}
+    bool open(const QString &) override { return true; }
     [[noreturn]] void endProcess() override { std::abort(); }
 
     bool answer = false; ///< to every question

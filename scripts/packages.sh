@@ -9,7 +9,7 @@ build_packages=(
     breeze-icon-theme fonts-dejavu-core
 )
 # What the tests drive the program with, read its pages with and compare its calendar with.
-test_packages=(xvfb xdotool poppler-utils imagemagick python3 python3-dateutil python3-holidays)
+test_packages=(xvfb xdotool poppler-utils imagemagick unzip python3 python3-dateutil python3-holidays)
 
 # Prints the packages among the arguments that are not installed.
 missing_packages() {

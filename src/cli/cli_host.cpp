@@ -79,9 +79,10 @@ QDateTime CliHost::now() const
     return m_aujourdhui ? QDateTime(*m_aujourdhui, QTime(8, 0)) : QDateTime::currentDateTime();
 }
 
-void CliHost::open(const QString &target)
+bool CliHost::open(const QString &target)
 {
     imprime(target);
+    return true;
 }
 
 void CliHost::endProcess()

@@ -23,7 +23,7 @@ public:
     [[nodiscard]] QDate today() const override;
     [[nodiscard]] QDateTime now() const override;
     /// There is no desktop here: the target is printed.
-    void open(const QString &target) override;
+    bool open(const QString &target) override;
     /// Ends with status 1. When nothing has been said so far, the sentence of `siMuette` is.
     [[noreturn]] void endProcess() override;
 

@@ -147,8 +147,9 @@ const std::vector<Commande> &commandes()
 {
     static const std::vector<Commande> toutes = [] {
         std::vector<Commande> reunies;
-        for (const auto famille : {commandesBase, commandesMois, commandesControle, commandesLignes,
-                                   commandesAbsences, commandesCodes, commandesCalendrier, commandesDossiers})
+        for (const auto famille : {commandesBase, commandesMois, commandesLignes, commandesAbsences,
+                                   commandesCodes, commandesControle, commandesCalendrier, commandesDossiers,
+                                   commandesImpressions, commandesExport})
             for (const Commande &commande : famille())
                 reunies.push_back(commande);
         return reunies;
@@ -173,7 +174,7 @@ bool LigneCommande::demandeFenetre() const
 
 bool LigneCommande::dessine() const
 {
-    return erreur.isEmpty() && !aide() && arguments.a("png");
+    return erreur.isEmpty() && !aide() && (arguments.a("png") || arguments.a("pdf"));
 }
 
 LigneCommande analyse(const QStringList &ligne)

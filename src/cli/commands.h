@@ -67,7 +67,7 @@ struct LigneCommande {
     [[nodiscard]] bool version() const;
     /// Whether the window is asked for.
     [[nodiscard]] bool demandeFenetre() const;
-    /// Whether the command draws, and so needs the window library.
+    /// Whether the command draws a picture or pages, and so needs the window library.
     [[nodiscard]] bool dessine() const;
 };
 

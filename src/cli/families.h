@@ -8,11 +8,13 @@ namespace velmora::cli
 // The commands by family, each in the order of the help. A family stands beside its commands.
 std::vector<Commande> commandesBase();
 std::vector<Commande> commandesMois();
-std::vector<Commande> commandesControle();
 std::vector<Commande> commandesLignes();
 std::vector<Commande> commandesAbsences();
 std::vector<Commande> commandesCodes();
+std::vector<Commande> commandesControle();
 std::vector<Commande> commandesCalendrier();
 std::vector<Commande> commandesDossiers();
+std::vector<Commande> commandesImpressions();
+std::vector<Commande> commandesExport();
 
 } // namespace velmora::cli

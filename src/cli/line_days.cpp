@@ -10,39 +10,45 @@ namespace velmora::cli
 namespace
 {
 
-QString refusDates(const Session &session, const JoursLigne &jours)
+QString refusDates(const Session &session, const PeriodeLue &periode)
 {
-    if (jours.fin < jours.debut) return QStringLiteral("La date de fin est avant la date de début.");
+    if (periode.fin < periode.debut) return QStringLiteral("La date de fin est avant la date de début.");
     const QDate premiere = periodeDuMois(session.datemin.month(), session.datemin.year()).debgrille;
     const QDate derniere = periodeDuMois(session.datemax.month(), session.datemax.year()).fingrille;
-    if (jours.debut < premiere || jours.fin > derniere) {
-        return QStringLiteral("Les dates vont du %1 au %2.")
-            .arg(Foncgen::dtoc(premiere), Foncgen::dtoc(derniere));
-    }
-    if (jours.debut >= jours.ligne.datedeb && jours.fin <= jours.ligne.datefin) return {};
+    if (periode.debut >= premiere && periode.fin <= derniere) return {};
+    return QStringLiteral("Les dates vont du %1 au %2.")
+        .arg(Foncgen::dtoc(premiere), Foncgen::dtoc(derniere));
+}
+
+QString refusLigne(const Ligne &ligne, const PeriodeLue &periode)
+{
+    if (periode.debut >= ligne.datedeb && periode.fin <= ligne.datefin) return {};
     return QStringLiteral("La ligne n'est ouverte que du %1 au %2.")
-        .arg(Foncgen::dtoc(jours.ligne.datedeb), Foncgen::dtoc(jours.ligne.datefin));
+        .arg(Foncgen::dtoc(ligne.datedeb), Foncgen::dtoc(ligne.datefin));
 }
 
 } // namespace
 
+PeriodeLue litPeriode(const Session &session, const QString &debut, const QString &fin)
+{
+    PeriodeLue periode{Foncgen::ctod(debut), Foncgen::ctod(fin), {}};
+    if (!periode.debut.isValid())
+        periode.refus = dateIllisible(debut);
+    else if (!periode.fin.isValid())
+        periode.refus = dateIllisible(fin);
+    else
+        periode.refus = refusDates(session, periode);
+    return periode;
+}
+
 JoursLigne litJours(Session &session, const QString &nump, const QString &debut, const QString &fin)
 {
-    JoursLigne jours;
-    if (!placeLigne(session, nump)) {
-        jours.refus = ligneInconnue(nump);
-        return jours;
-    }
-    jours.ligne = session.base.ligmois.row();
-    jours.debut = Foncgen::ctod(debut);
-    jours.fin = Foncgen::ctod(fin);
-    if (!jours.debut.isValid())
-        jours.refus = dateIllisible(debut);
-    else if (!jours.fin.isValid())
-        jours.refus = dateIllisible(fin);
-    else
-        jours.refus = refusDates(session, jours);
-    return jours;
+    if (!placeLigne(session, nump))
+        return {.ligne = {}, .debut = {}, .fin = {}, .refus = ligneInconnue(nump)};
+    const Ligne ligne = session.base.ligmois.row();
+    const PeriodeLue periode = litPeriode(session, debut, fin);
+    const QString refus = periode.refus.isEmpty() ? refusLigne(ligne, periode) : periode.refus;
+    return {ligne, periode.debut, periode.fin, refus};
 }
 
 } // namespace velmora::cli

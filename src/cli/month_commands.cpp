@@ -28,29 +28,6 @@ int mauvaisesCellules()
     return mauvaisUsage(QStringLiteral("--cellules vaut 0, 1 ou 2"));
 }
 
-/// Why the month can't be opened; empty when the session has taken it.
-QString refusMois(Session &session, const QString &texte)
-{
-    const QDate premier = Foncgen::ctod(QStringLiteral("01/") + texte);
-    if (!premier.isValid()) return QStringLiteral("Mois illisible : ") + texte;
-    const EchelleMois echelle(session.datemin, session.datemax);
-    const int position = echelle.position({premier.month(), premier.year()});
-    if (position < echelle.minimum() || position > echelle.maximum()) {
-        return QStringLiteral("Les mois vont du %1 au %2.")
-            .arg(Foncgen::dtoc(session.datemin), Foncgen::dtoc(session.datemax));
-    }
-    session.moisvue = premier.month();
-    session.anvue = premier.year();
-    return {};
-}
-
-QString refusDossier(Session &session, const QString &dossier)
-{
-    if (!dossier.isEmpty() && !placedossier(session, dossier)) return dossierInconnu(dossier);
-    session.dossiervue = dossier;
-    return {};
-}
-
 int imprimeMois(Session &session)
 {
     Planning planning(session, session.moisvue, session.anvue);
@@ -63,8 +40,10 @@ int imprimeMois(Session &session)
 int mois(Session &session, const Appel &appel)
 {
     QString impossible = refusMois(session, appel.mots.first());
-    if (impossible.isEmpty()) impossible = refusDossier(session, appel.arguments.valeur("dossier"));
+    const QString dossier = appel.arguments.valeur("dossier");
+    if (impossible.isEmpty()) impossible = refusDossier(session, dossier);
     if (!impossible.isEmpty()) return refus(impossible);
+    session.dossiervue = dossier;
     session.totcent = appel.arguments.a("centiemes");
     const int statut = imprimeMois(session);
     if (statut != reussi || !appel.arguments.a("png")) return statut;
@@ -84,6 +63,21 @@ int statut(Session &session, const QString &nump, const QString &date)
 }
 
 } // namespace
+
+QString refusMois(Session &session, const QString &texte)
+{
+    const QDate premier = Foncgen::ctod(QStringLiteral("01/") + texte);
+    if (!premier.isValid()) return QStringLiteral("Mois illisible : ") + texte;
+    const EchelleMois echelle(session.datemin, session.datemax);
+    const int position = echelle.position({premier.month(), premier.year()});
+    if (position < echelle.minimum() || position > echelle.maximum()) {
+        return QStringLiteral("Les mois vont du %1 au %2.")
+            .arg(Foncgen::dtoc(session.datemin), Foncgen::dtoc(session.datemax));
+    }
+    session.moisvue = premier.month();
+    session.anvue = premier.year();
+    return {};
+}
 
 int commandeMois(const Appel &appel)
 {

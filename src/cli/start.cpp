@@ -1,5 +1,6 @@
 #include "cli/start.h"
 
+#include "folders/folder_list.h"
 #include "session/velmoral.h"
 
 #include <QFileInfo>
@@ -42,6 +43,11 @@ bool placeLigne(Session &session, const QString &nump)
     ligmois.setIndex("ligmois01");
     const auto numero = entier(nump, 0, std::numeric_limits<int>::max());
     return numero && ligmois.seek(store::Cmp::Eq, {*numero});
+}
+
+QString refusDossier(Session &session, const QString &dossier)
+{
+    return dossier.isEmpty() || placedossier(session, dossier) ? QString() : dossierInconnu(dossier);
 }
 
 QString ligneInconnue(const QString &nump)

@@ -17,6 +17,9 @@ int surSession(const Appel &appel, const std::function<int(Session &)> &travail)
 /// line.
 [[nodiscard]] bool placeLigne(Session &session, const QString &nump);
 
+/// Why a folder can't be taken, in a sentence; empty when it can, as an empty name can.
+[[nodiscard]] QString refusDossier(Session &session, const QString &dossier);
+
 // Sentences for words that can't be used.
 [[nodiscard]] QString ligneInconnue(const QString &nump);
 [[nodiscard]] QString dateIllisible(const QString &date);

@@ -1,5 +1,6 @@
 #include "folders/smois.h"
 
+#include "folders/folder_choice.h"
 #include "session/help.h"
 #include "workstation/controls.h"
 #include "workstation/list_window.h"
@@ -7,9 +8,7 @@
 #include <QBoxLayout>
 #include <QGroupBox>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QRadioButton>
-#include <QScopedValueRollback>
 #include <QScrollBar>
 
 namespace velmora
@@ -19,7 +18,6 @@ namespace
 {
 
 constexpr int moisParPage = 12;
-constexpr int lettresDossier = 32;
 
 QLineEdit *chiffres(QWidget *parent, const char *nom, const QString &accessible, int nombre)
 {
@@ -32,8 +30,7 @@ QLineEdit *chiffres(QWidget *parent, const char *nom, const QString &accessible,
 } // namespace
 
 Smois::Smois(Session &session, QWidget *parent)
-    : QDialog(parent), m_session(session), m_echelle(session.datemin, session.datemax),
-      m_choix(lignesDossiers(session))
+    : QDialog(parent), m_session(session), m_echelle(session.datemin, session.datemax)
 {
     m_session.dlgvalide = false;
     construit();
@@ -49,11 +46,10 @@ void Smois::construit()
     setObjectName(QStringLiteral("Smois"));
     setWindowTitle(QStringLiteral("Critères affichage mois"));
     m_label2 = etiquette(this, "Label2", QStringLiteral("Dossier à sélectionner :"));
-    m_list1 = nomme(new QListWidget(this), "List1");
-    m_list1->setSelectionMode(QAbstractItemView::MultiSelection);
+    m_list1 = new ListeDossiers(m_session, this);
     m_list1->setAccessibleName(m_label2->text());
     m_label2->setBuddy(m_list1);
-    m_label3 = etiquette(this, "Label3", m_choix.texte());
+    m_label3 = etiquette(this, "Label3", m_list1->texte());
     m_frame2 = nomme(new QGroupBox(QStringLiteral("Mois à afficher"), this), "Frame2");
     m_text1 = chiffres(m_frame2, "Text1", QStringLiteral("Mois"), 2);
     m_label1 = etiquette(m_frame2, "Label1", QStringLiteral("/"));
@@ -108,8 +104,6 @@ QLayout *Smois::disposeDossiers()
     gras.setBold(true);
     m_label3->setFont(gras);
     m_label3->setTextFormat(Qt::PlainText);
-    m_list1->setSpacing(fontMetrics().height() / 8);
-    m_list1->setMinimumWidth(fontMetrics().averageCharWidth() * lettresDossier);
     auto *const colonne = new QVBoxLayout;
     colonne->setSpacing(fontMetrics().height() / 2);
     colonne->addWidget(m_label2);
@@ -135,7 +129,7 @@ QLayout *Smois::disposeMois()
 void Smois::relie()
 {
     connect(m_vs1, &QScrollBar::valueChanged, this, &Smois::vs1Change);
-    connect(m_list1, &QListWidget::itemSelectionChanged, this, &Smois::list1Click);
+    connect(m_list1, &ListeDossiers::choisie, this, &Smois::list1Click);
     connect(m_command1, &QPushButton::clicked, this, &Smois::accept);
     connect(m_command2, &QPushButton::clicked, this, &Smois::reject);
     connect(m_command3, &QPushButton::clicked, this,
@@ -144,8 +138,6 @@ void Smois::relie()
 
 void Smois::ouvre()
 {
-    m_list1->addItems(m_choix.lignes());
-    selectionne(m_choix.selligne());
     m_option1[static_cast<std::size_t>(optionDuMode(m_session.modecellule))]->setChecked(true);
     m_vs1->setRange(m_echelle.minimum(), m_echelle.maximum());
     const MoisAn depart = moisDeDepart(m_session);
@@ -174,27 +166,8 @@ void Smois::vs1Change(int position)
 
 void Smois::list1Click()
 {
-    if (!m_pret) return;
-    const QScopedValueRollback enCours(m_pret, false);
-    if (m_choix.clic(lignesChoisies())) {
-        m_label3->setText(m_choix.texte());
-        m_session.dossiervue = m_choix.dossier();
-    }
-    selectionne(m_choix.selligne());
-}
-
-void Smois::selectionne(int ligne)
-{
-    m_list1->clearSelection();
-    m_list1->item(ligne)->setSelected(true);
-}
-
-QList<bool> Smois::lignesChoisies() const
-{
-    QList<bool> choisies;
-    for (int ligne = 0; ligne < m_list1->count(); ++ligne)
-        choisies << m_list1->item(ligne)->isSelected();
-    return choisies;
+    m_label3->setText(m_list1->texte());
+    m_session.dossiervue = m_list1->dossier();
 }
 
 void Smois::accept()

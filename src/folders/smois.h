@@ -10,13 +10,14 @@ class QGroupBox;
 class QLabel;
 class QLayout;
 class QLineEdit;
-class QListWidget;
 class QPushButton;
 class QRadioButton;
 class QScrollBar;
 
 namespace velmora
 {
+
+class ListeDossiers;
 
 /// "Critères affichage mois": asks which month to show, for which folder, and what the cells hold. It sets
 /// session values only, the month and the folder as they are moved to.
@@ -43,16 +44,13 @@ private:
     void montreMois();
     void vs1Change(int position);
     void list1Click();
-    void selectionne(int ligne);
-    [[nodiscard]] QList<bool> lignesChoisies() const;
 
     Session &m_session;
     EchelleMois m_echelle;
-    ChoixDossier m_choix;
     bool m_pret = false; ///< `pret`: the controls are the user's to change
 
     QLabel *m_label2 = nullptr; ///< "Dossier à sélectionner :"
-    QListWidget *m_list1 = nullptr;
+    ListeDossiers *m_list1 = nullptr;
     QLabel *m_label3 = nullptr;    ///< the chosen row
     QGroupBox *m_frame2 = nullptr; ///< "Mois à afficher"
     QLineEdit *m_text1 = nullptr;  ///< month

@@ -1,13 +1,20 @@
 #pragma once
 
 #include <QDate>
+#include <QList>
+#include <QRgb>
 #include <QString>
+
+#include <array>
 
 namespace velmora
 {
 
-/// The general-function object: the text forms of numbers, dates and hours. One lives in each session.
-/// It has no state; its methods are pure.
+class Imprimante;
+struct GrilleImprimee;
+
+/// The general-function object: the text forms of numbers, dates and hours, and the print services. One lives
+/// in each session. It has no state; its text methods are pure.
 class Foncgen
 {
 public:
@@ -50,6 +57,31 @@ public:
 
     /// French name of a weekday, 1 is Sunday: "dimanche", "lundi", ... Empty outside 1 to 7.
     [[nodiscard]] static QString nomjour(int weekday);
+
+    // Print services, on the page grid (output/printer.h). Each is given its first line by reference and
+    // leaves it on the last line that it has used, so that a row of any height is followed by `++ligne`.
+
+    /// Writes a text from the left edge of a column on. "\n" goes on one line below.
+    static void pprint(Imprimante &imprimante, int &ligne, int colonne, const QString &texte);
+    /// The same, centred on the left edge of the column.
+    static void pprintc(Imprimante &imprimante, int &ligne, int colonne, const QString &texte);
+    /// The same, ending a hair before the left edge of the column: a rule may stand there.
+    static void pprintd(Imprimante &imprimante, int &ligne, int colonne, const QString &texte);
+
+    /// Draws a frame from the top of `ligne` to the bottom of `derniereLigne`, between the left edges of two
+    /// columns: the sides asked for, and inside it a vertical rule at each column of `regles` that isn't 0.
+    static void tabl(Imprimante &imprimante, int &ligne, int colonne, int derniereLigne, int derniereColonne,
+                     bool haut, bool bas, bool gauche, bool droite, const std::array<int, 8> &regles = {});
+
+    /// Fills the same rectangle with a colour; what is written on it comes after.
+    static void remplir(Imprimante &imprimante, int &ligne, int colonne, int derniereLigne,
+                        int derniereColonne, QRgb couleur);
+
+    /// Prints some columns of a grid, page by page, under the title and the grid's own titles. `orientation`
+    /// is "P" for upright pages, any other letter for lying ones. The columns are as wide as their texts; a
+    /// grid wider than the page is made smaller as a whole.
+    static void msfgimpr(Imprimante &imprimante, const GrilleImprimee &grille, const QString &titre,
+                         const QString &nometab, QChar orientation, const QList<int> &colonnes);
 };
 
 } // namespace velmora

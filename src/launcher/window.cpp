@@ -6,6 +6,7 @@
 #include "cli/start.h"
 #include "folders/groupt.h"
 #include "month/fplan.h"
+#include "output/absli.h"
 #include "session/qt_host.h"
 #include "session/velmoral.h"
 
@@ -47,7 +48,7 @@ private:
 
 void ouvreCodesAbsence(Session &session, QWidget *parent)
 {
-    Fcodabs dialogue(session, {}, parent);
+    Fcodabs dialogue(session, ouvreImpressionCodes, parent);
     dialogue.exec();
 }
 

@@ -99,7 +99,7 @@ void Fplan::construit()
     auto *colonne = new QVBoxLayout(this);
     colonne->setContentsMargins(6, 4, 6, 4);
     colonne->addLayout(titres);
-    colonne->addWidget(m_mg, 1);
+    colonne->addWidget(zoneGrille(), 1);
     colonne->addLayout(etat);
 }
 
@@ -212,8 +212,11 @@ void Fplan::relieMenus()
     m_menus.lie(QStringLiteral("mnusais"), this, &Fplan::saisitHeures);
     relieLignes();
     relieAbsences();
+    relieSorties();
+    relieZoom();
     m_menus.lie(QStringLiteral("mnuaid"), this,
                 [this] { ouvreaide(m_session, QStringLiteral("sommaire.htm")); });
+    relieImpressions();
     m_menus.lie(QStringLiteral("mnuferm"), this, [this] { close(); });
 }
 
@@ -257,6 +260,12 @@ void Fplan::rafraichit()
         },
         [this] { montreCommandes(); });
     if (!vivante || m_ferme) return;
+    cycle(m_planning);
+    m_date->setText(QStringLiteral("le : ") + Foncgen::dtoc(m_planning.dateStatut));
+    m_statut->setText(m_planning.texteStatut);
+    m_statut->setToolTip(m_planning.texteStatut.toHtmlEscaped());
+    montreZoom();
+    montreCommandes();
     if (m_mg->isVisible() && m_mg->isEnabled()) m_mg->setFocus();
 }
 
@@ -279,7 +288,8 @@ void Fplan::execute()
 {
     const auto bouton = boutonDeCle(m_cle);
     if (!bouton || !commandesBoutons().contains(*bouton)) return;
-    m_menus.entree(commandesBoutons().value(*bouton))->trigger();
+    const bool quitteZoom = *bouton == Bouton::Zoom && m_zoomact;
+    m_menus.entree(quitteZoom ? QStringLiteral("mnuaffnorm") : commandesBoutons().value(*bouton))->trigger();
 }
 
 void Fplan::saisitHeures()

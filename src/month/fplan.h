@@ -10,9 +10,12 @@
 class QLabel;
 class QMenu;
 class QProgressBar;
+class QSplitter;
 
 namespace velmora
 {
+
+class TableauBarres;
 
 /// "Planning mois": the month's grid with its title, its status line and its menus. It passes events to the
 /// month's procedures and shows what they leave.
@@ -35,6 +38,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void construit();
@@ -43,6 +47,9 @@ private:
     void relieMenus();
     void relieLignes();
     void relieAbsences();
+    void relieSorties();
+    void relieZoom();
+    void relieImpressions();
     void mesure();
 
     void charge();
@@ -76,7 +83,15 @@ private:
     void surLigne(const std::function<void(const Ligne &)> &commande);
     template <class Dialogue> [[nodiscard]] bool demande(const Ligne &ligne);
     void termineLigne();
+    [[nodiscard]] QWidget *zoneGrille();
+    void choisitZoom(bool zoom);
+    void disposeZoom();
+    void montreZoom();
+    void zoomClique(int rangee);
 
+    void imprimeLigne();
+    void imprimeEnsemble();
+    void imprimeSemaine();
     void touchePressee(const QString &texte);
 
     Session &m_session;
@@ -88,12 +103,15 @@ private:
     QLabel *m_statut;    // what the current cell holds
     QProgressBar *m_pgb; // the load
     VueGrille *m_mg;
-    SaisieCode *m_code;    // the entry of an absence code in a cell
-    QMenu *m_maca;         // the grid's popup menu
-    QTimer m_timer1{this}; // the load that follows the display
-    QTimer m_timer2{this}; // the refresh cycle
-    QTimer m_timer3{this}; // a command of the toolbar
-    QString m_cle;         // key of that command
+    QSplitter *m_partage = nullptr;  // the grid and the zoom
+    TableauBarres *m_zoom = nullptr; // the day zoom: `Mgm`, `Piczoom` and its scale `Picture2`
+    bool m_zoomact = false;          // `zoomact`: the zoom is on
+    SaisieCode *m_code;              // the entry of an absence code in a cell
+    QMenu *m_maca;                   // the grid's popup menu
+    QTimer m_timer1{this};           // the load that follows the display
+    QTimer m_timer2{this};           // the refresh cycle
+    QTimer m_timer3{this};           // a command of the toolbar
+    QString m_cle;                   // key of that command
     bool m_ferme = false;
 };
 

@@ -1,5 +1,6 @@
 #include "month/loading.h"
 
+#include "folders/membership.h"
 #include "month/cursor.h"
 #include "month/line_days.h"
 #include "month/line_state.h"
@@ -123,10 +124,7 @@ int compteLignes(Session &session, const Periode &periode)
 
 bool ligdossier(Session &session, int nump)
 {
-    if (session.dossiervue.isEmpty()) return true;
-    auto &groupe = session.base.groupe;
-    groupe.setIndex("groupeng");
-    return groupe.seek(store::Cmp::Eq, {nump, session.dossiervue});
+    return dansDossier(session, nump, session.dossiervue);
 }
 
 void chargeligne(Planning &planning, const Ligne &ligne)

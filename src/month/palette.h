@@ -22,4 +22,12 @@ inline constexpr QRgb encreControle2 = 0xff1e7a34; ///< the mark of a line in or
 inline constexpr QRgb fondTotal = 0xffdde6ee;      ///< the total row
 inline constexpr QRgb encreTotal = 0xff12324f;
 
+// Bars of a day.
+inline constexpr QRgb barreTravail = 0xff4f8fd0;
+inline constexpr QRgb barreCoupe = 0xffb3cdea;
+inline constexpr QRgb barreNuit = 0xff4a4f86; ///< the night that the day before has begun
+inline constexpr QRgb barreAbsence = 0xffe3ddd2;
+inline constexpr QRgb traitHeure = 0xffe4e8ec; ///< full hours behind the bars
+inline constexpr QRgb traitEchelle = 0xff7a8490;
+
 } // namespace velmora::palette

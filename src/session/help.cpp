@@ -11,13 +11,16 @@ void ouvreaide(Session &session, const QString &page)
     if (courante.isEmpty()) courante = QStringLiteral("sommaire.htm");
     if (!page.isEmpty()) courante = page;
     for (const QString &dossier : {QString(), session.cheminjournal})
-        if (QFileInfo(dossier + courante).isFile()) return lanceassocie(session, dossier + courante);
+        if (QFileInfo(dossier + courante).isFile()) {
+            lanceassocie(session, dossier + courante);
+            return;
+        }
     lanceassocie(session, session.urlaide + courante);
 }
 
-void lanceassocie(Session &session, const QString &cible)
+bool lanceassocie(Session &session, const QString &cible)
 {
-    session.host.open(cible);
+    return session.host.open(cible);
 }
 
 } // namespace velmora

@@ -9,7 +9,7 @@ namespace velmora
 /// page on the help site. An empty name keeps the session's current page, "sommaire.htm" at first.
 void ouvreaide(Session &session, const QString &page);
 
-/// Asks the desktop to open a document or an address.
-void lanceassocie(Session &session, const QString &cible);
+/// Asks the desktop to open a document or an address. False when it has no program for it.
+bool lanceassocie(Session &session, const QString &cible);
 
 } // namespace velmora

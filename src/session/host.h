@@ -35,9 +35,9 @@ public:
     [[nodiscard]] virtual QDate today() const = 0;
     [[nodiscard]] virtual QDateTime now() const = 0;
 
-    /// Opens a document or an address with the program that the desktop associates with it. The result is
-    /// not reported: a missing program means that nothing opens.
-    virtual void open(const QString &target) = 0;
+    /// Opens a document or an address with the program that the desktop associates with it. False when there
+    /// is no such program, as far as can be told; how the program fares isn't waited for.
+    virtual bool open(const QString &target) = 0;
 
     /// Ends the process at once, with no saving.
     [[noreturn]] virtual void endProcess() = 0;

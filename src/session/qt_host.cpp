@@ -6,6 +6,8 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QMimeDatabase>
+#include <QProcess>
 #include <QPushButton>
 
 #include <cstdlib>
@@ -15,6 +17,8 @@ namespace velmora
 
 namespace
 {
+
+constexpr int longestAnswer = 3000; // of the desktop, in milliseconds
 
 /// A box as the system's messages look: plain text, so that what a user has typed can't be read as markup.
 void prepare(QMessageBox &box, QMessageBox::Icon icon, const QString &text, const QString &title)
@@ -67,9 +71,12 @@ QDateTime QtHost::now() const
     return {m_options.today.value_or(machine.date()), machine.time()};
 }
 
-void QtHost::open(const QString &target)
+bool QtHost::open(const QString &target)
 {
-    QDesktopServices::openUrl(addressOf(target));
+    const QUrl address = addressOf(target);
+    // The desktop's opener answers before it has looked for a program, so the question comes first.
+    if (address.isLocalFile() && !hasProgram(target)) return false;
+    return QDesktopServices::openUrl(address);
 }
 
 void QtHost::endProcess()
@@ -81,6 +88,15 @@ QUrl addressOf(const QString &target)
 {
     const QFileInfo file(target);
     return file.exists() ? QUrl::fromLocalFile(file.absoluteFilePath()) : QUrl(target);
+}
+
+bool hasProgram(const QString &file)
+{
+    const QString kind = QMimeDatabase().mimeTypeForFile(file, QMimeDatabase::MatchExtension).name();
+    QProcess asked;
+    asked.start(QStringLiteral("xdg-mime"), {QStringLiteral("query"), QStringLiteral("default"), kind});
+    if (!asked.waitForFinished(longestAnswer) || asked.exitStatus() != QProcess::NormalExit) return true;
+    return asked.exitCode() != 0 || !asked.readAllStandardOutput().trimmed().isEmpty();
 }
 
 } // namespace velmora

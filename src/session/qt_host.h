@@ -28,7 +28,7 @@ public:
     [[nodiscard]] bool retry(const QString &text, const QString &title, int attempt) override;
     [[nodiscard]] QDate today() const override;
     [[nodiscard]] QDateTime now() const override;
-    void open(const QString &target) override;
+    bool open(const QString &target) override;
     [[noreturn]] void endProcess() override;
 
 private:
@@ -37,5 +37,9 @@ private:
 
 /// The address of a document or a page: a file that exists by its whole path, anything else as an address.
 [[nodiscard]] QUrl addressOf(const QString &target);
+
+/// Whether the desktop associates a program with files of this kind, going by the file's name. True as well
+/// when the desktop can't be asked.
+[[nodiscard]] bool hasProgram(const QString &file);
 
 } // namespace velmora

@@ -77,6 +77,10 @@ struct Session {
     QDate impdeb;
     QDate impfin;
 
+    // What prints go out with, once chosen; empty for the defaults.
+    QString imprimante;
+    QString policeimp;
+
     // State of the journal's ring.
     int nblog = 30;
     bool peutannul = false;

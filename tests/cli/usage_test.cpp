@@ -68,9 +68,29 @@ TEST(CommandLine, TellsEveryCommandInTheHelp)
     const Program program;
     const Outcome run = program.run({"--aide"}, {});
     EXPECT_EQ(run.status, 0);
-    for (const char *command : {"init", "demo", "mois", "statut", "saisie", "copier", "couper", "supprimer",
-                                "annuler", "refaire", "journal", "ligne nouvelle", "ligne liste", "absence",
-                                "absences", "code liste", "code ajouter", "code modifier", "code supprimer"})
+    for (const char *command : {"init",
+                                "demo",
+                                "mois",
+                                "statut",
+                                "saisie",
+                                "copier",
+                                "couper",
+                                "supprimer",
+                                "annuler",
+                                "refaire",
+                                "journal",
+                                "ligne nouvelle",
+                                "ligne liste",
+                                "absence",
+                                "absences",
+                                "code liste",
+                                "code ajouter",
+                                "code modifier",
+                                "code supprimer",
+                                "imprimer ligne",
+                                "imprimer ensemble",
+                                "imprimer semaine",
+                                "imprimer codes"})
         EXPECT_TRUE(run.out.contains(QStringLiteral("velmora ") + QLatin1String(command))) << command;
 }
 

@@ -92,6 +92,23 @@ TEST(QtHostTest, ALocalPageOpensByItsWholePath)
     QDir::setCurrent(before);
 }
 
+TEST(QtHostTest, ADocumentWithoutAProgramIsKnownBeforehand)
+{
+    const QTemporaryDir folder;
+    const QByteArray before = qgetenv("PATH");
+    qputenv("PATH", folder.path().toLocal8Bit());
+    EXPECT_TRUE(hasProgram("Planning.xlsx")) << "the desktop can't be asked";
+    // The desktop's own tool answers with the name of a program, or with nothing.
+    QFile tool(folder.filePath("xdg-mime"));
+    ASSERT_TRUE(tool.open(QIODevice::WriteOnly));
+    tool.write("#!/bin/sh\n[ \"$1 $2 ${3##*.}\" = 'query default sheet' ] && echo calc.desktop\nexit 0\n");
+    tool.close();
+    ASSERT_TRUE(tool.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+    EXPECT_TRUE(hasProgram("Planning.xlsx"));
+    EXPECT_FALSE(hasProgram("Planning.txt"));
+    qputenv("PATH", before);
+}
+
 TEST(QtHostDeathTest, EndOfTheProcessRunsNoCleanUp)
 {
     EXPECT_EXIT(

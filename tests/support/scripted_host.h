@@ -58,10 +58,15 @@ public:
     }
     QDate today() const override { return m_today; }
     QDateTime now() const override { return {m_today, QTime(8, 15)}; }
-    void open(const QString &target) override { opened << target; }
+    bool open(const QString &target) override
+    {
+        opened << target;
+        return opens;
+    }
     [[noreturn]] void endProcess() override { throw ProcessEnded{}; }
 
     QStringList opened;              ///< what the desktop was asked to open
+    bool opens = true;               ///< whether it has a program for it
     QStringList titles;              ///< titles of messages and questions, in order
     std::function<void()> whenAsked; ///< runs while a question is open
 
