@@ -56,7 +56,7 @@ constexpr Ratio ratios[]{
     {"redo of it over bare writing", "BM_Redo/real_time", "BM_BareWriting/real_time"},
     {"set print of 996 pages over the bare texts", "BM_PrintSet", "BM_BareTexts"},
     {"paste of 31 days over bare writing", "BM_Paste/real_time", "BM_BareWriting/real_time"},
-    {"export of 996 lines over bare reading", "BM_Export/real_time", "BM_BareMonth/real_time"},
+    {"export of 996 lines over a bare workbook", "BM_Export/real_time", "BM_BareWorkbook/real_time"},
     {"practised schedules over bare grouping", "BM_Practised", "BM_BareGrouping"},
 };
 

@@ -1,15 +1,18 @@
 #include "planted_base.h"
 
+#include "month/loading.h"
+#include "month/zoom.h"
 #include "output/export.h"
 #include "output/practised.h"
 
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
+#include <xlsxwriter.h>
 
 #include <memory>
 
-// What is handed out costs: the export of a month beside the bare writing of a file of its size, and the
-// count of the practised schedules of a year beside the same grouping by the engine.
+// What is handed out costs: the export of a month beside a bare workbook of its size, the count of the
+// practised schedules beside the same grouping by the engine, and the zoom on a day.
 namespace velmora::bench
 {
 namespace
@@ -83,16 +86,27 @@ private:
     sqlite3_stmt *m_statement = nullptr;
 };
 
-/// The rows of the month as the engine gives them, which the export can't do without.
-void BM_BareMonth(benchmark::State &state)
+/// The library alone: a workbook of as many rows and hours.
+void BM_BareWorkbook(benchmark::State &state)
 {
-    Lecteur lecteur(
-        "SELECT Val, heurdeb, heurfin, hideb, hifin, hideb2, hifin2 FROM ligmois CROSS JOIN sitper "
-        "ON sitper.nump = ligmois.nump WHERE dat BETWEEN ?1 AND ?2");
-    for (auto _ : state)
-        state.counters["rows"] = lecteur.lit("2026-06-01", "2026-06-30");
+    const QByteArray fichier = QString(base().session.cheminbase + QStringLiteral("bare.xlsx")).toLocal8Bit();
+    constexpr lxw_row_t rangees = lignes * 8 + 8;
+    constexpr lxw_col_t jours = 30;
+    for (auto _ : state) {
+        lxw_workbook_options options{};
+        options.constant_memory = LXW_TRUE;
+        lxw_workbook *classeur = workbook_new_opt(fichier.constData(), &options);
+        lxw_worksheet *feuille = workbook_add_worksheet(classeur, nullptr);
+        for (lxw_row_t rangee = 0; rangee < rangees; ++rangee) {
+            worksheet_write_string(feuille, rangee, 1, "Heures F.", nullptr);
+            // Half of the rows of a block hold hours: the worked ones, both ends and, every other day, a cut.
+            for (lxw_col_t jour = 0; rangee % 8 < 4 && jour < jours; ++jour)
+                worksheet_write_number(feuille, rangee, static_cast<lxw_col_t>(jour + 2), 7.25, nullptr);
+        }
+        if (workbook_close(classeur) != LXW_NO_ERROR) state.SkipWithError("not written");
+    }
 }
-BENCHMARK(BM_BareMonth)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(BM_BareWorkbook)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void BM_BareGrouping(benchmark::State &state)
 {
@@ -118,6 +132,16 @@ void BM_Practised(benchmark::State &state)
     }
 }
 BENCHMARK(BM_Practised)->Unit(benchmark::kMillisecond);
+
+void BM_ZoomOnADay(benchmark::State &state)
+{
+    Planning planning(base().session, 6, 2026);
+    if (!chargi(planning, {})) state.SkipWithError("no line");
+    int jour = 0;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(zoomDuJour(planning, juin1.addDays(++jour % 30)));
+}
+BENCHMARK(BM_ZoomOnADay)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace velmora::bench

@@ -6,7 +6,7 @@ build_packages=(
     g++ cmake ninja-build ccache pkg-config
     qt6-base-dev qt6-svg-dev libsqlite3-dev libicu-dev libxlsxwriter-dev
     libgtest-dev libgmock-dev libbenchmark-dev
-    breeze-icon-theme fonts-dejavu-core
+    breeze-icon-theme fonts-dejavu-core qt6-translations-l10n
 )
 # What the tests drive the program with, read its pages with and compare its calendar with.
 test_packages=(xvfb xdotool poppler-utils imagemagick unzip python3 python3-dateutil python3-holidays)

@@ -56,7 +56,8 @@ QString prendCouleur(const Arguments &arguments, const char *option, int &couleu
 QString prendLibelle(const QString &texte, int longueur, QString &libelle)
 {
     if (texte.size() > longueur)
-        return QStringLiteral("Le libellé « %1 » dépasse %2 caractères.").arg(texte).arg(longueur);
+        return QStringLiteral("Le libellé « %1 » dépasse %2 caractères.")
+            .arg(texte, QString::number(longueur));
     libelle = admissible(FieldType::Free, longueur, texte);
     return {};
 }

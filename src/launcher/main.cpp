@@ -4,7 +4,9 @@
 #include "workstation/look.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
 #include <QLoggingCategory>
+#include <QTranslator>
 
 #include <clocale>
 #include <cstring>
@@ -41,6 +43,14 @@ bool sansEcran()
            qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
 
+/// The desktop's own dialogs speak French too, where their translation is installed.
+void parleFrancais(QApplication &application)
+{
+    auto *const textes = new QTranslator(&application);
+    if (textes->load(QStringLiteral("qtbase_fr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(textes);
+}
+
 int fenetre(const cli::LigneCommande &ligne, int argc, char **argv)
 {
     if (sansEcran()) {
@@ -49,6 +59,7 @@ int fenetre(const cli::LigneCommande &ligne, int argc, char **argv)
     }
     QApplication application(argc, argv);
     appliqueApparence(application);
+    parleFrancais(application);
     return ouvreFenetre(ligne.poste);
 }
 

@@ -274,6 +274,19 @@ void TableauBarres::fixeEntete(int hauteur)
     m_echelle->setFixedHeight(retenue);
 }
 
+void TableauBarres::serreColonnes(int largeur)
+{
+    QHeaderView *const entete = m_table->horizontalHeader();
+    entete->setSectionResizeMode(QHeaderView::Fixed);
+    entete->setMinimumSectionSize(largeur);
+    int total = 0;
+    for (int colonne = 0; colonne < m_modele.columnCount(); ++colonne) {
+        entete->resizeSection(colonne, std::max(largeur, entete->sectionSizeHint(colonne)));
+        total += entete->sectionSize(colonne);
+    }
+    m_table->setFixedWidth(total);
+}
+
 void TableauBarres::designe(int ligne)
 {
     if (ligne < 0 || ligne >= m_modele.rowCount()) return m_table->clearSelection();

@@ -103,6 +103,8 @@ public:
     void montre(const QStringList &titres, std::vector<RangeeBarres> rangees);
     /// Height of the head with the scale, in pixels; its texts always fit.
     void fixeEntete(int hauteur);
+    /// Makes each column as wide as its title, or as so many pixels, and the table as wide as its columns.
+    void serreColonnes(int largeur);
     /// Gives a row the selection and brings it into view; -1 takes the selection away.
     void designe(int ligne);
     /// Scrolls so that a row is the first in view, as far as the table goes.

@@ -23,8 +23,8 @@ using namespace std::chrono_literals;
 
 constexpr auto apresOuverture = 5ms;
 constexpr int largeurColonne = 800; // twips
-constexpr QSize tailleDepart(1120, 560);
-constexpr QSize tailleMinimale(760, 320);
+constexpr QSize tailleDepart(1200, 580);
+constexpr QSize tailleMinimale(860, 320);
 
 /// A picture of the scale that stands beside the program takes the place of the drawn one.
 QPixmap imageEchelle()
@@ -86,9 +86,7 @@ void Horairp::construit()
 
 void Horairp::dispose()
 {
-    QHeaderView *const entete = m_mg->table()->horizontalHeader();
-    entete->setMinimumSectionSize(pixels(largeurColonne, *this));
-    entete->setSectionResizeMode(QHeaderView::Stretch);
+    m_mg->serreColonnes(pixels(largeurColonne, *this));
     QSizePolicy place = m_pgb->sizePolicy();
     place.setRetainSizeWhenHidden(true);
     m_pgb->setSizePolicy(place);

@@ -72,13 +72,25 @@ void DialogueImpression::compose(const QString &intitule, QLayout *demandes)
     m_frame6->setLayout(disposeImprimante());
     page->addWidget(m_frame6);
     page->addLayout(disposeCommandes());
-    // The keys go from the questions on to the printer and end with the commands.
-    QWidget *avant = previousInFocusChain();
+    ordonneTouches();
+}
+
+/// The keys go from the questions on to the printer and end with the commands.
+void DialogueImpression::ordonneTouches()
+{
     const QList<QWidget *> suite{m_command3, m_command4, m_cotext, m_apercu, m_command1, m_command2};
+    QWidget *premiere = nullptr;
+    QWidget *avant = nullptr;
+    for (QWidget *une = nextInFocusChain(); une != this; une = une->nextInFocusChain()) {
+        if (une->focusPolicy() == Qt::NoFocus || suite.contains(une)) continue;
+        if (!premiere) premiere = une;
+        avant = une;
+    }
     for (QWidget *suivant : suite) {
-        setTabOrder(avant, suivant);
+        if (avant) setTabOrder(avant, suivant);
         avant = suivant;
     }
+    (premiere ? premiere : m_command1)->setFocus();
 }
 
 QLayout *DialogueImpression::disposeImprimante()

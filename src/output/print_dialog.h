@@ -39,6 +39,7 @@ private:
     void construit();
     [[nodiscard]] QLayout *disposeImprimante();
     [[nodiscard]] QLayout *disposeCommandes();
+    void ordonneTouches();
     void relie();
     void montreImprimante();
     void permetCommandes(bool permises);

@@ -21,12 +21,15 @@ constexpr double epaisseurTrait = 10;
 constexpr double taillePremiere = 9;
 constexpr double tailleMini = 4;
 constexpr double pasTaille = 0.25;
+// The least spacing, which no eye sees, keeps letters from joining to one sign: words are found in a file.
+constexpr double sansLigature = 1 / 64.0;
 
 QFont policeDe(const QString &famille)
 {
     QFont police(famille.isEmpty() ? policeParDefaut : famille);
     // The metrics of a page must not depend on any screen.
     police.setHintingPreference(QFont::PreferNoHinting);
+    police.setLetterSpacing(QFont::AbsoluteSpacing, sansLigature);
     police.setPixelSize(qRound(taillePremiere * papier::twipsParPoint));
     police.setBold(true);
     return police;

@@ -38,7 +38,9 @@ TEST(PrintCommands, WriteTheirPdfWithoutADisplayAndChangeNothing)
         EXPECT_TRUE(lines.value(0).contains("[imprimé le 15/06/2026 à 8h00] Page : 1"))
             << lines.value(0).toStdString();
         EXPECT_EQ(lines.value(1), title);
-        if (!then.isEmpty()) EXPECT_EQ(lines.value(2), then);
+        if (!then.isEmpty()) {
+            EXPECT_EQ(lines.value(2), then);
+        }
     }
     EXPECT_EQ(program.fingerprint(), before);
 }

@@ -50,7 +50,7 @@ TEST(PrintFrame, HeadBearsTheEstablishmentTheMomentThePageAndTheTitlesOnEachPage
         const QStringList expected{
             QStringLiteral("Maison Énée [imprimé le 15/06/2026 à 8h15] Page : %1 - 2").arg(page),
             QStringLiteral("PLANNING DÛ"), QStringLiteral("Zoé")};
-        EXPECT_EQ(pdf.lines(page), expected);
+        EXPECT_EQ(joined(pdf.lines(page)), joined(expected));
     }
     EXPECT_NEAR(word(pdf, "Maison").left, corner + 300, 15);
     EXPECT_NEAR(word(pdf, "Page").left, portraitWidth - corner - 2000, 15);
@@ -70,7 +70,7 @@ TEST(PrintFrame, HeadOfOnePageHasItsNumberAloneAndLongTextsEndInAnEllipsisInside
     for (const QString &line : lines)
         EXPECT_TRUE(line.contains(QChar(0x2026))) << line.toStdString();
     EXPECT_NEAR(word(pdf, "Résidence").top, corner + 100, 40);
-    EXPECT_EQ(badlyPlaced(pdf, portraitWidth, portraitHeight), QStringList());
+    EXPECT_EQ(joined(badlyPlaced(pdf, portraitWidth, portraitHeight)), "");
 }
 
 TEST(PrintFrame, ServicesPlaceTextsOnTheGridAndLeaveTheLineOnTheLastOneUsed)
@@ -155,7 +155,7 @@ TEST(PrintFrame, AWholeGridRepeatsItsTitlesNumbersItsPagesAndLosesNoRow)
     ASSERT_EQ(rows.size(), 130);
     EXPECT_EQ(rows.first(), "0a 0b");
     EXPECT_EQ(rows.last(), "129a 129b");
-    EXPECT_EQ(badlyPlaced(pdf, portraitWidth, portraitHeight), QStringList());
+    EXPECT_EQ(joined(badlyPlaced(pdf, portraitWidth, portraitHeight)), "");
 }
 
 TEST(PrintFrame, AnEmptyGridPrintsItsTitlesAndAWideOneFitsALyingPage)
@@ -172,7 +172,7 @@ TEST(PrintFrame, AnEmptyGridPrintsItsTitlesAndAWideOneFitsALyingPage)
         all << i;
     const PrintedPdf pdf = print({wide, {wide}}, all);
     EXPECT_EQ(pdf.lines().filter(QChar(0x2026)), QStringList());
-    EXPECT_EQ(badlyPlaced(pdf, portraitHeight, portraitWidth), QStringList());
+    EXPECT_EQ(joined(badlyPlaced(pdf, portraitHeight, portraitWidth)), "");
 }
 
 TEST(PrintFrame, APdfThatCannotBeWrittenLeavesTheOldOne)

@@ -104,7 +104,7 @@ TEST_F(LinePrint, ShowsEachDayItsWeeksAndTheTotalWithAbsencesIncluded)
                                "Lun 15/06/2026 -",
                                "( 0h00 )",
                                "Total des heures: 48h30 ( dont 22h00 d'absence)"};
-    EXPECT_EQ(pdf.lines(), expected);
+    EXPECT_EQ(joined(pdf.lines()), joined(expected));
 }
 
 TEST_F(LinePrint, StandsOnItsColumnsWithALineFreeBeforeSaturday)
@@ -135,7 +135,7 @@ TEST_F(LinePrint, ALongPeriodKeepsWeeksWholeRepeatsTheHeadAndCutsNothingInAWideF
     const PrintedPdf pdf(impressionLigne(session, {1, name}, {2026, 1, 1}, {2026, 5, 31}),
                          "DejaVu Sans Mono");
     EXPECT_EQ(pdf.pages(), 4);
-    EXPECT_EQ(badlyPlaced(pdf, shortSide, longSide), QStringList());
+    EXPECT_EQ(joined(badlyPlaced(pdf, shortSide, longSide)), "");
     int days = 0;
     for (int page = 1; page <= pdf.pages(); ++page) {
         const QStringList lines = pdf.lines(page);
@@ -168,8 +168,8 @@ TEST_F(LinePrint, ASetGivesEachLineOfTheFolderAPageOfItsOwnInOrderOfNames)
         }
         return found;
     };
-    EXPECT_EQ(names({}), QStringList({"Denis", "Émile", "Zoé"}));
-    EXPECT_EQ(names("Nuit"), QStringList({"Denis", "Zoé"}));
+    EXPECT_EQ(joined(names({})), joined(QStringList({"Denis", "Émile", "Zoé"})));
+    EXPECT_EQ(joined(names("Nuit")), joined(QStringList({"Denis", "Zoé"})));
 }
 
 TEST_F(LinePrint, AnEmptySetHasOneHeadAndFailedReadingIsTold)
@@ -207,7 +207,7 @@ TEST_F(WeekPrint, ShowsHoursShortLabelsAndTotalsOfTheLines)
         "17h00 - 21h00",
         "H. EFF. TOTAL : 17h30",
         "ABS. TOTAL : 14h00"};
-    EXPECT_EQ(print(true), expected);
+    EXPECT_EQ(joined(print(true)), joined(expected));
     const QStringList unvalued = print(false);
     EXPECT_EQ(unvalued[2], "Émile ? Congé Congé 0h00 0h00");
     EXPECT_EQ(unvalued.last(), "ABS. TOTAL : 0h00");
@@ -218,7 +218,7 @@ TEST_F(WeekPrint, StandsOnItsColumns)
     station.addLine(1, "Zoé");
     station.addDay(1, {2026, 6, 7}, 480, 1020);
     const PrintedPdf pdf(impressionSemaine(session, {{2026, 6, 1}, {}, true, false}));
-    EXPECT_EQ(badlyPlaced(pdf, longSide, shortSide), QStringList());
+    EXPECT_EQ(joined(badlyPlaced(pdf, longSide, shortSide)), "");
     std::map<QString, PdfWord> words;
     for (const PdfWord &word : pdf.words())
         words.emplace(word.text, word);
@@ -271,7 +271,7 @@ TEST_F(WeekPrint, ManyLinesKeepRowsWholeRepeatTheTitlesAndEndWithTheTotals)
             if (nump % 3 == 0) addTwoCuts(nump, {2026, 6, day});
     }
     const PrintedPdf pdf(impressionSemaine(session, {{2026, 6, 1}, {}, false, false}), "DejaVu Sans");
-    EXPECT_EQ(badlyPlaced(pdf, longSide, shortSide), QStringList());
+    EXPECT_EQ(joined(badlyPlaced(pdf, longSide, shortSide)), "");
     int names = 0;
     for (int page = 1; page <= pdf.pages(); ++page) {
         const QStringList lines = pdf.lines(page);
@@ -298,8 +298,8 @@ TEST_F(CodePrint, ListsEveryCodeInOrderAndSaysWhichAreArchived)
     addCode("MA", "Maladie", "Arrêt maladie", 0, archived);
     addCode(" C", "Congé", "Congés payés");
     const PrintedPdf pdf(impressionCodes(session));
-    EXPECT_EQ(pdf.lines(), QStringList({"[imprimé le 15/06/2026 à 8h15] Page : 1", "Codes absence",
-                                        "C Congé Congés payés", "MA Maladie Arrêt maladie archivé"}));
+    EXPECT_EQ(joined(pdf.lines()), joined({"[imprimé le 15/06/2026 à 8h15] Page : 1", "Codes absence",
+                                           "C Congé Congés payés", "MA Maladie Arrêt maladie archivé"}));
 }
 
 TEST_F(CodePrint, AnEmptyTablePrintsTheHeadingAloneAndALongOneStopsAtLine63)
@@ -309,7 +309,7 @@ TEST_F(CodePrint, AnEmptyTablePrintsTheHeadingAloneAndALongOneStopsAtLine63)
         addCode(QStringLiteral("%1").arg(i, 3), "Libellé court vraiment très long",
                 QStringLiteral("Libellé long ").repeated(6), 0, archived);
     const PrintedPdf pdf(impressionCodes(session), "DejaVu Sans");
-    EXPECT_EQ(badlyPlaced(pdf, shortSide, longSide), QStringList());
+    EXPECT_EQ(joined(badlyPlaced(pdf, shortSide, longSide)), "");
     EXPECT_EQ(pdf.pages(), 3);
     // From line 6 to line 61.
     EXPECT_EQ(pdf.lines(1).size(), 2 + 56);

@@ -112,6 +112,12 @@ private:
     std::shared_ptr<QTemporaryDir> m_folder;
 };
 
+/// Lines as one text, which a failing test shows readably.
+inline std::string joined(const QStringList &lines)
+{
+    return lines.join(QLatin1Char('\n')).toStdString();
+}
+
 /// Words that lie on each other or outside the paper's printable area, for a page of `width` twips.
 inline QStringList badlyPlaced(const PdfFile &pdf, double width, double height)
 {
