@@ -103,7 +103,7 @@ void Fparcgs::charge()
     m_combo2->setCurrentIndex(depart.region);
     m_text2->setText(depart.nometab);
     (m_session.modeajout ? static_cast<QWidget *>(m_text1) : m_combo2)->setFocus();
-    m_text1->selectAll(); // the focus may have come before the text
+    if (m_session.modeajout) m_text1->selectAll(); // the focus may have come before the text
     m_pret = true;
 }
 
