@@ -147,9 +147,10 @@ const std::vector<Commande> &commandes()
 {
     static const std::vector<Commande> toutes = [] {
         std::vector<Commande> reunies;
-        for (const auto famille : {commandesBase, commandesMois, commandesLignes, commandesAbsences,
-                                   commandesCodes, commandesControle, commandesCalendrier, commandesDossiers,
-                                   commandesImpressions, commandesExport})
+        for (const auto famille :
+             {commandesBase, commandesMois, commandesLignes, commandesAbsences, commandesCodes,
+              commandesControle, commandesCalendrier, commandesDossiers, commandesImpressions,
+              commandesExport, commandesSauvegarde, commandesVerification})
             for (const Commande &commande : famille())
                 reunies.push_back(commande);
         return reunies;

@@ -16,5 +16,7 @@ std::vector<Commande> commandesCalendrier();
 std::vector<Commande> commandesDossiers();
 std::vector<Commande> commandesImpressions();
 std::vector<Commande> commandesExport();
+std::vector<Commande> commandesSauvegarde();
+std::vector<Commande> commandesVerification();
 
 } // namespace velmora::cli

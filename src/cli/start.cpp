@@ -67,7 +67,7 @@ QString dossierInconnu(const QString &nom)
 
 QString tropLong(int longueur, const QString &texte)
 {
-    return QStringLiteral("Le texte « %1 » dépasse %2 caractères.").arg(texte).arg(longueur);
+    return QStringLiteral("Le texte « %1 » dépasse %2 caractères.").arg(texte, QString::number(longueur));
 }
 
 } // namespace velmora::cli

@@ -6,6 +6,7 @@
 #include "session/guards.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace velmora
 {
@@ -17,6 +18,12 @@ namespace
 {
 
 const QString titreDossier = QStringLiteral("Velmora");
+
+bool refuseNom(Session &session)
+{
+    session.host.message(QStringLiteral("dossier déjà défini - changez la désignation !"), titreDossier);
+    return false;
+}
 
 } // namespace
 
@@ -68,10 +75,7 @@ bool CompositionDossier::valide(const QString &texte) const
         host.message(QStringLiteral("donner une appellation au dossier !"), titreDossier);
         return false;
     }
-    if (m_session.modeajout && placedossier(m_session, nom)) {
-        host.message(QStringLiteral("dossier déjà défini - changez la désignation !"), titreDossier);
-        return false;
-    }
+    if (m_session.modeajout && placedossier(m_session, nom)) return refuseNom(m_session);
     const bool garni = std::any_of(m_lignes.begin(), m_lignes.end(),
                                    [](const LigneCochable &ligne) { return ligne.cochee; });
     return garni || host.question(QStringLiteral(" aucune ligne n'est sélectée : continuer ?"), titreDossier);
@@ -79,18 +83,32 @@ bool CompositionDossier::valide(const QString &texte) const
 
 bool CompositionDossier::enregistre(const QString &texte)
 {
-    if (!enLot(m_session, [&] { return ecrit(texte); })) return false;
+    bool pris = false;
+    bool repris = false;
+    const bool fait = enLot(m_session, [&] {
+        // Another workstation can have given the name since it was checked. A second try may find the head
+        // row of the first.
+        pris =
+            m_session.modeajout && !std::exchange(repris, true) && placedossier(m_session, texte.trimmed());
+        return pris ? Status{} : ecrit(texte);
+    });
+    if (pris) return refuseNom(m_session);
+    if (!fait) return false;
     m_session.base.groupe.goTo(m_tete);
     return true;
 }
 
 Status CompositionDossier::ecrit(const QString &texte)
 {
+    // The head row keeps the blanks around the name and the member rows don't: this is wanted.
+    if (m_session.modeajout) m_nom = texte.trimmed();
+    const QString &tete = m_session.modeajout ? texte : m_designation;
     Status status;
-    if (m_session.modeajout) {
-        // The head row keeps the blanks around the name and the member rows don't: this is wanted.
-        m_nom = texte.trimmed();
-        status = ajouteTete(texte);
+    // Another workstation can have deleted the folder since the dialog opened: lines without a head row would
+    // be no folder.
+    if (!placedossier(m_session, tete)) {
+        status = m_session.base.groupe.status();
+        if (status.ok()) status = ajouteTete(tete);
     }
     for (const LigneCochable &ligne : m_lignes)
         if (status.ok()) status = ecritLigne(ligne);

@@ -9,6 +9,7 @@
 #include "output/absli.h"
 #include "session/qt_host.h"
 #include "session/velmoral.h"
+#include "workstation/fsauv.h"
 
 #include <QApplication>
 
@@ -46,6 +47,13 @@ private:
     bool m_dit = false;
 };
 
+bool ouvreSauvegarde(Session &session, QWidget *parent)
+{
+    Fsauv fsauv(session, parent);
+    fsauv.exec();
+    return fsauv.rouvertes();
+}
+
 void ouvreCodesAbsence(Session &session, QWidget *parent)
 {
     Fcodabs dialogue(session, ouvreImpressionCodes, parent);
@@ -74,6 +82,7 @@ std::unique_ptr<Mdivel> fenetrePrincipale(Session &session)
     ouvertures.parametres = montre<Fparcg>;
     ouvertures.dossiers = montre<Groupt>;
     ouvertures.feries = ouvreferies;
+    ouvertures.sauvegarde = ouvreSauvegarde;
     return std::make_unique<Mdivel>(session, ouvertures);
 }
 

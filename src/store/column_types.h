@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/engine.h"
+#include "store/schema.h"
 
 #include <QByteArray>
 #include <QDate>
@@ -12,12 +13,13 @@
 namespace velmora::store
 {
 
-/// How a C++ type is held in a column: its SQL type, and its passage to and from a statement. A null reads
-/// as the type's empty value.
+/// How a C++ type is held in a column: its SQL type, its nature, and its passage to and from a statement. A
+/// null reads as the type's empty value.
 template <class T> struct ColumnType;
 
 template <> struct ColumnType<int> {
     static constexpr const char *sql = "INTEGER";
+    static constexpr Nature nature = Nature::Number;
     static void bind(Statement &statement, int position, int value) { statement.bindInt(position, value); }
     static int read(const Statement &statement, int column)
     {
@@ -28,6 +30,7 @@ template <> struct ColumnType<int> {
 /// True is -1 in the file.
 template <> struct ColumnType<bool> {
     static constexpr const char *sql = "INTEGER";
+    static constexpr Nature nature = Nature::Truth;
     static void bind(Statement &statement, int position, bool value)
     {
         statement.bindInt(position, value ? -1 : 0);
@@ -37,6 +40,7 @@ template <> struct ColumnType<bool> {
 
 template <> struct ColumnType<double> {
     static constexpr const char *sql = "REAL";
+    static constexpr Nature nature = Nature::Real;
     static void bind(Statement &statement, int position, double value)
     {
         statement.bindReal(position, value);
@@ -47,6 +51,7 @@ template <> struct ColumnType<double> {
 /// A null text is a null QString.
 template <> struct ColumnType<QString> {
     static constexpr const char *sql = "TEXT";
+    static constexpr Nature nature = Nature::Text;
     static void bind(Statement &statement, int position, const QString &value)
     {
         if (value.isNull()) return statement.bindNull(position);
@@ -64,6 +69,7 @@ template <> struct ColumnType<QString> {
 /// ISO-8601 text, "2026-06-03". Of a longer text the first ten characters count.
 template <> struct ColumnType<QDate> {
     static constexpr const char *sql = "TEXT";
+    static constexpr Nature nature = Nature::Date;
     static void bind(Statement &statement, int position, const QDate &value);
     static QDate read(const Statement &statement, int column);
 };
@@ -71,12 +77,14 @@ template <> struct ColumnType<QDate> {
 /// ISO-8601 text, "2026-06-03T08:15:00", local time.
 template <> struct ColumnType<QDateTime> {
     static constexpr const char *sql = "TEXT";
+    static constexpr Nature nature = Nature::Moment;
     static void bind(Statement &statement, int position, const QDateTime &value);
     static QDateTime read(const Statement &statement, int column);
 };
 
 template <class T> struct ColumnType<std::optional<T>> {
     static constexpr const char *sql = ColumnType<T>::sql;
+    static constexpr Nature nature = ColumnType<T>::nature;
     static void bind(Statement &statement, int position, const std::optional<T> &value)
     {
         if (value) return ColumnType<T>::bind(statement, position, *value);

@@ -12,6 +12,9 @@ inline const QString fichierJournal = QStringLiteral("velmoralog.mdb");
 /// Passing work file of a journal's repair.
 inline const QString fichierReparation = QStringLiteral("genvelmoralog.mdb");
 
+/// A workstation's second session must hear soon that the journal is taken.
+inline constexpr std::chrono::milliseconds journalWait{300};
+
 /// The main database: the planning that all workstations share. Its tables stay open for the session.
 struct MainDatabase {
     explicit MainDatabase(std::unique_ptr<Engine> theEngine = std::make_unique<SqliteEngine>())

@@ -1,19 +1,16 @@
 #include "store/repair.h"
 
 #include "store/databases.h"
+#include "store/file_replacement.h"
 
 #include <QFile>
 #include <QFileInfo>
-
-#include <filesystem>
 
 namespace velmora::store
 {
 
 namespace
 {
-
-constexpr std::chrono::milliseconds lockWait{300};
 
 /// A file whose header carries the journal's mark, however damaged the rest is. The engine reads it: opening
 /// the file beside the engine would let go of the locks that a session of this process may hold on it.
@@ -29,7 +26,7 @@ Status openDamaged(SqliteEngine &engine, const QString &path)
 {
     if (QFileInfo(path).isFile() && !QFileInfo(path).isWritable())
         return {Status::Code::ReadOnly, QStringLiteral("the file can't be written")};
-    Status status = engine.open(path, {.damaged = true, .busyWait = lockWait});
+    Status status = engine.open(path, {.damaged = true, .busyWait = journalWait});
     if (status.ok()) status = checkMark(engine);
     if (!status.ok()) return status;
     // Damage that shows here is no obstacle, a lock is. Only a connection with the right to write gets a lock
@@ -105,18 +102,6 @@ Status salvageInto(Engine &damaged, const QString &target)
     if (status.ok()) status = dropHeadlessRing(engine);
     if (status.ok()) status = engine.commit();
     return status;
-}
-
-/// Puts a file in the place of another, whole or not at all. An unfinished transaction of the old content
-/// goes with it.
-Status replaceFile(const QString &source, const QString &target)
-{
-    std::error_code error;
-    std::filesystem::rename(QFile::encodeName(source).toStdString(), QFile::encodeName(target).toStdString(),
-                            error);
-    if (error) return {Status::Code::Io, QString::fromStdString(error.message())};
-    QFile::remove(target + QStringLiteral("-journal"));
-    return {};
 }
 
 } // namespace

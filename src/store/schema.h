@@ -29,9 +29,13 @@ struct TableDefaults {
 };
 template <class Row> struct TableDef;
 
+/// What a column's values are, beyond their SQL type.
+enum class Nature { Number, Truth, Real, Text, Date, Moment };
+
 struct Column {
     QString name;
     QString sqlType;
+    Nature nature = Nature::Text;
     bool french = false;
     bool sought = false; ///< part of an index
     bool key = false;    ///< part of a unique index

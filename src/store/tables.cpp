@@ -144,9 +144,9 @@ template <class Row> const Schema &schemaOf()
         made.table = QString::fromLatin1(TableDef<Row>::name);
         made.clustered = TableDef<Row>::clustered;
         forEachColumn<Row>([&made](const auto &field, auto type) {
-            made.columns.push_back({QString::fromLatin1(field.name),
-                                    QString::fromLatin1(ColumnType<typename decltype(type)::type>::sql),
-                                    TableDef<Row>::sortsAsFrench(field.name), false});
+            using Type = ColumnType<typename decltype(type)::type>;
+            made.columns.push_back({QString::fromLatin1(field.name), QString::fromLatin1(Type::sql),
+                                    Type::nature, TableDef<Row>::sortsAsFrench(field.name), false});
         });
         addIndexes(made, TableDef<Row>::indexes());
         return made;

@@ -10,10 +10,56 @@ namespace
 
 const QString police = QStringLiteral("MS Sans Serif");
 
-constexpr int fondPair = 0xE0E0E0;
-constexpr int fondImpair = 0xFFFFFF;
-constexpr int encreBleue = 0x000040;
-constexpr int encreRouge = 0x800000;
+/// A field for a colour and the colour that it has at first, or the desktop's window text.
+struct Couleur {
+    std::optional<int> Affichage::*champ;
+    int defaut;
+};
+constexpr int texteDuBureau = -1;
+
+constexpr Couleur couleurs[] = {
+    {&Affichage::cclbp, 0xE0E0E0},       {&Affichage::cclbnp, 0xFFFFFF},
+    {&Affichage::cclfp, 0x000040},       {&Affichage::cclfnp, 0x000040},
+    {&Affichage::cclbpi, 0xE0E0E0},      {&Affichage::cclbnpi, 0xFFFFFF},
+    {&Affichage::cclfpi, 0x800000},      {&Affichage::cclfnpi, 0x800000},
+    {&Affichage::cclfgrid, 0x000040},    {&Affichage::cclbgrid, 0xC0C0C0},
+    {&Affichage::cclfsd, 0x000080},      {&Affichage::cclff, 0x800000},
+    {&Affichage::cclfform, 0x000040},    {&Affichage::cclbform, 0xE0E0E0},
+    {&Affichage::cclfm, texteDuBureau},  {&Affichage::cclbm1, 0xFFFFC0},
+    {&Affichage::cclbm2, 0xFFE0C0},      {&Affichage::cclbsel, 0x000080},
+    {&Affichage::cclbdem, 0x800000},     {&Affichage::cclbano, 0x008000},
+    {&Affichage::cclberr, 0x00C000},     {&Affichage::cclbsais, 0xFF0000},
+    {&Affichage::cclfm1, texteDuBureau}, {&Affichage::cclfm2, texteDuBureau},
+    {&Affichage::cclfsel, 0xFFFFFF},     {&Affichage::cclfdem, 0xFFFFFF},
+    {&Affichage::cclfano, 0xFFFFFF},     {&Affichage::cclferr, 0xFFFFFF},
+    {&Affichage::cclfsais, 0xFFFFFF},    {&Affichage::cclfnom, 0x000080},
+};
+
+/// A colour that begins as another one of the same row.
+struct Suite {
+    std::optional<int> Affichage::*champ;
+    std::optional<int> Affichage::*modele;
+};
+
+constexpr Suite suites[] = {
+    {&Affichage::cclbnpp, &Affichage::cclbp},
+    {&Affichage::cclbnpip, &Affichage::cclbpi},
+    {&Affichage::cclfnpp, &Affichage::cclfp},
+    {&Affichage::cclfnpip, &Affichage::cclfpi},
+};
+
+/// A measure of the three sizes and its values at first.
+struct Mesure {
+    int Affichage::*champs[3];
+    int defauts[3];
+};
+
+constexpr Mesure mesures[] = {
+    {{&Affichage::taill1, &Affichage::taill2, &Affichage::taill3}, {10, 8, 6}},
+    {{&Affichage::haut1, &Affichage::haut2, &Affichage::haut3}, {350, 325, 280}},
+    {{&Affichage::largn1, &Affichage::largn2, &Affichage::largn3}, {600, 500, 365}},
+    {{&Affichage::larg01, &Affichage::larg02, &Affichage::larg03}, {1300, 1000, 850}},
+};
 
 /// A comparison as text: true is -1, as in the tables.
 QString texteBooleen(bool value)
@@ -21,67 +67,32 @@ QString texteBooleen(bool value)
     return value ? QStringLiteral("-1") : QStringLiteral("0");
 }
 
+/// Gives the user's row these settings. A failure is passed over.
+void ecrit(Session &session, const Affichage &affichage)
+{
+    auto &agent = session.base.agent;
+    if (!editgarde(session, agent).ok()) return;
+    agent.values().affichage = affichage;
+    agent.update().ignore();
+}
+
 } // namespace
 
 Affichage affichageParDefaut(QRgb texteFenetre, const QString &fontSession)
 {
-    const int encreFenetre = static_cast<int>(texteFenetre & RGB_MASK);
-    return {
-        .cclbp = fondPair,
-        .cclbnp = fondImpair,
-        .cclfp = encreBleue,
-        .cclfnp = encreBleue,
-        .cclbpi = fondPair,
-        .cclbnpi = fondImpair,
-        .cclfpi = encreRouge,
-        .cclfnpi = encreRouge,
-        .cclfgrid = 0x000040,
-        .cclbgrid = 0xC0C0C0,
-        .cclfsd = 0x000080,
-        .cclff = 0x800000,
-        .cclfform = 0x000040,
-        .cclbform = 0xE0E0E0,
-        .cclfm = encreFenetre,
-        .cclbm1 = 0xFFFFC0,
-        .cclbm2 = 0xFFE0C0,
-        .cclbsel = 0x000080,
-        .cclbdem = 0x800000,
-        .cclbano = 0x008000,
-        .cclberr = 0x00C000,
-        .cclbsais = 0xFF0000,
-        .cclfm1 = encreFenetre,
-        .cclfm2 = encreFenetre,
-        .cclfsel = 0xFFFFFF,
-        .cclfdem = 0xFFFFFF,
-        .cclfano = 0xFFFFFF,
-        .cclferr = 0xFFFFFF,
-        .cclfsais = 0xFFFFFF,
-        .cclfnom = 0x000080,
-        // The last four follow the even line's colours, field by field.
-        .cclbnpp = fondPair,
-        .cclbnpip = fondPair,
-        .cclfnpp = encreBleue,
-        .cclfnpip = encreRouge,
-        // The answer of the comparison is stored, not the font's name: wanted so, and nothing uses the value.
-        .font1 = texteBooleen(police == fontSession),
-        .font2 = police,
-        .font3 = QStringLiteral("MS Serif"),
-        .taill1 = 10,
-        .taill2 = 8,
-        .taill3 = 6,
-        .fontb1 = false,
-        .fontb2 = false,
-        .fontb3 = false,
-        .haut1 = 350,
-        .haut2 = 325,
-        .haut3 = 280,
-        .largn1 = 600,
-        .largn2 = 500,
-        .largn3 = 365,
-        .larg01 = 1300,
-        .larg02 = 1000,
-        .larg03 = 850,
-    };
+    Affichage affichage;
+    for (const auto &[champ, defaut] : couleurs)
+        affichage.*champ = defaut == texteDuBureau ? static_cast<int>(texteFenetre & RGB_MASK) : defaut;
+    for (const auto &[champ, modele] : suites)
+        affichage.*champ = affichage.*modele;
+    // The answer of the comparison is stored, not the font's name: wanted so, and nothing uses the value.
+    affichage.font1 = texteBooleen(police == fontSession);
+    affichage.font2 = police;
+    affichage.font3 = QStringLiteral("MS Serif");
+    for (const Mesure &mesure : mesures)
+        for (std::size_t i = 0; i < std::size(mesure.champs); ++i)
+            affichage.*mesure.champs[i] = mesure.defauts[i];
+    return affichage;
 }
 
 bool affichageComplet(const Affichage &affichage)
@@ -92,21 +103,16 @@ bool affichageComplet(const Affichage &affichage)
 
 void gescolor(Session &session, QRgb texteFenetre)
 {
-    auto &agent = session.base.agent;
+    const auto &agent = session.base.agent;
     if (!agent.hasRow()) return;
-    if (!affichageComplet(agent.row().affichage) && editgarde(session, agent).ok()) {
-        agent.values().affichage = affichageParDefaut(texteFenetre, session.affichage.font1);
-        agent.update().ignore();
-    }
+    if (!affichageComplet(agent.row().affichage))
+        ecrit(session, affichageParDefaut(texteFenetre, session.affichage.font1));
     session.affichage = agent.row().affichage;
 }
 
 void ecritAffichage(Session &session)
 {
-    auto &agent = session.base.agent;
-    if (!editgarde(session, agent).ok()) return;
-    agent.values().affichage = session.affichage;
-    agent.update().ignore();
+    ecrit(session, session.affichage);
 }
 
 } // namespace velmora

@@ -46,11 +46,14 @@ protected:
 
 TEST_F(CodesTest, TheFieldKeepsTwoCharactersAndAlignsASingleOneToTheRight)
 {
-    const std::pair<const char *, const char *> changes[] = {
-        {"", ""},      {"R", " R"}, {" R", " R"}, {" RS", "RS"}, {"RS", "RS"},
-        {"RST", "RS"}, {" ", ""},   {"  ", ""},   {"R ", " R"},  {"É", " É"},
-    };
-    for (const auto &[typed, kept] : changes)
+    for (const auto &[typed, kept] : {std::pair("", ""),
+                                      {"R", " R"},
+                                      {" R", " R"},
+                                      {" RS", "RS"},
+                                      {"RST", "RS"},
+                                      {"  ", ""},
+                                      {"R ", " R"},
+                                      {"É", " É"}})
         EXPECT_EQ(codeSaisi(QString::fromUtf8(typed)), QString::fromUtf8(kept)) << typed;
 }
 

@@ -44,6 +44,35 @@ const QStringList wholeStates{
     QStringLiteral("rows 0+31, images 31+31"),
 };
 
+const QStringList cutAndPaste{"couper", "1", "01/06/2026", "01/07/2026", "--vers", "2", "01/06/2026"};
+
+/// A command that changes the planning or the journal in one transaction over both files.
+struct Killed {
+    QStringList words;
+    bool planningFirst = false; ///< its planning is committed before its journal
+    QStringList begun{};        ///< a command that leaves what this one writes before its question
+};
+
+const Killed killed[] = {
+    {{"saisie", "1", "03/06/2026", "20/06/2026", "7h-15h"}},
+    {{"copier", "1", "01/06/2026", "01/07/2026", "--vers", "3", "01/06/2026"}},
+    {{"supprimer", "1", "02/06/2026", "25/06/2026", "--oui"},
+     false,
+     {"supprimer", "1", "02/06/2026", "25/06/2026", "--non"}},
+    {{"annuler", "--oui"}, true},
+    {{"refaire", "--oui"}},
+    {{"absence", "1", "03/06/2026", "20/06/2026", "CP"}},
+    {{"ligne", "nouvelle", "LÉA", "01/01/2026"}},
+    {{"ligne", "fermer", "1", "05/06/2026", "--oui"}},
+    {{"ligne", "supprimer", "1", "--oui"}},
+    {{"dossier", "ajouter", "Nouveau", "1", "2", "3"}},
+    {{"code", "ajouter", "ZZ", "Essai"}},
+    {{"feries", "ajouter", "15/07/2026", "Fermeture"}},
+    {{"parametres", "ajouter", "01/01/2025", "1", "Maison"}},
+    {{"mois", "6/2026"}},
+    {{"verifie"}},
+};
+
 class KillTest : public testing::Test
 {
 protected:
@@ -88,16 +117,14 @@ protected:
     /// From where the moment of the kill counts: the program's start, or its first write to the planning.
     enum class From { Start, FirstWrite };
 
-    /// Runs the cut and paste and kills it so many microseconds after the start or the first write; nothing
+    /// Runs a command and kills it so many microseconds after the start or the first write; nothing
     /// lets it end by itself. Returns the microseconds from there to its end.
-    int runKilled(From from, std::optional<int> microseconds)
+    int runKilled(const QStringList &words, From from, std::optional<int> microseconds)
     {
         QProcess process;
         QElapsedTimer length;
         length.start();
-        process.start(QStringLiteral(VELMORA_PROGRAM),
-                      QStringList{"couper", "1", "01/06/2026", "01/07/2026", "--vers", "2", "01/06/2026"} +
-                          program.options());
+        process.start(QStringLiteral(VELMORA_PROGRAM), words + program.options());
         EXPECT_TRUE(process.waitForStarted());
         const auto pid = static_cast<pid_t>(process.processId());
         if (from == From::FirstWrite) {
@@ -125,8 +152,8 @@ protected:
         const Outcome ring = program({"journal"});
         EXPECT_EQ(ring.status, 0) << ring.err.toStdString();
         EXPECT_TRUE(ring.err.isEmpty()) << ring.err.toStdString();
-        for (const QString &file : {program.base(), program.journal()})
-            EXPECT_EQ(RawSqlite(file).value("PRAGMA integrity_check"), QStringLiteral("ok"));
+        const Outcome check = program({"verifie"});
+        EXPECT_EQ(check.status, 0) << check.out.toStdString();
     }
     Left left()
     {
@@ -136,6 +163,32 @@ protected:
                 rows.value("SELECT count(*) FROM sitper WHERE nump = 2").toInt(),
                 log.rows("SELECT (SELECT count(*) FROM sitlog WHERE sitlog.numop = logop.numop) FROM logop "
                          "WHERE valop AND libop NOT LIKE 'nouvel%' ORDER BY ordop DESC")};
+    }
+    static QString contentOf(const QString &file, const QStringList &tables)
+    {
+        QString text;
+        RawSqlite raw(file);
+        for (const QString &table : tables)
+            text += raw.rows("SELECT * FROM " + table).join(u'\n') + QStringLiteral("\n\n");
+        return text;
+    }
+    [[nodiscard]] QString planning() const
+    {
+        return contentOf(program.base(),
+                         {"sitper", "absences", "ligmois", "groupe", "codabs", "ferie", "parcg"});
+    }
+    [[nodiscard]] QString ring() const { return contentOf(program.journal(), {"logop", "sitlog", "logabs"}); }
+    /// The command is there whole or not at all, and no row changed without its images.
+    void expectWhole(const Killed &command, const QStringList &before, const QStringList &begun,
+                     const QStringList &after)
+    {
+        const QStringList left{planning(), ring()};
+        for (int file = 0; file < 2; ++file)
+            EXPECT_TRUE(QStringList({before[file], begun[file], after[file]}).contains(left[file]));
+        const int first = command.planningFirst ? 0 : 1;
+        if (before[first] != after[first] && left[first] != after[first]) {
+            EXPECT_EQ(left[1 - first], before[1 - first]);
+        }
     }
     /// Takes back what was recorded: the rows are again as before the cut.
     void expectUndone(const Left &found)
@@ -169,7 +222,7 @@ TEST_F(KillTest, LeavesEachOperationWholeOrNotThereAtAll)
     std::map<From, int> length;
     for (const From from : {From::Start, From::FirstWrite}) {
         restore();
-        length[from] = runKilled(from, {});
+        length[from] = runKilled(cutAndPaste, from, {});
         ASSERT_EQ(left().text(), wholeStates.last());
     }
     std::mt19937 random(static_cast<unsigned>(setting("VELMORA_SEED", 1)));
@@ -178,7 +231,7 @@ TEST_F(KillTest, LeavesEachOperationWholeOrNotThereAtAll)
     for (int i = 0; i < kills && !HasFailure(); ++i) {
         restore();
         const From from = i % 2 == 0 ? From::Start : From::FirstWrite;
-        runKilled(from, std::uniform_int_distribution<int>(0, length[from])(random));
+        runKilled(cutAndPaste, from, std::uniform_int_distribution<int>(0, length[from])(random));
         expectSound();
         const Left found = left();
         EXPECT_TRUE(wholeStates.contains(found.text())) << found.text().toStdString();
@@ -188,4 +241,54 @@ TEST_F(KillTest, LeavesEachOperationWholeOrNotThereAtAll)
     }
     for (const auto &[state, times] : seen)
         std::printf("%4d  %s\n", times, qPrintable(state));
+}
+
+// VELMORA_KILLS sets how many times in all, VELMORA_SEED the moments.
+TEST_F(KillTest, LeavesEveryCommandWholeOrNotThereAtAll)
+{
+    ASSERT_EQ(program({"saisie", "2", "01/06/2026", "10/06/2026", "6h-13h"}).status, 0);
+    ASSERT_EQ(program({"annuler", "--oui"}).status, 0);
+    base = content(program.base());
+    journal = content(program.journal());
+    const QStringList before{planning(), ring()};
+    std::mt19937 random(static_cast<unsigned>(setting("VELMORA_SEED", 1)));
+    const int times = setting("VELMORA_KILLS", 30) / static_cast<int>(std::size(killed));
+    for (const Killed &command : killed) {
+        SCOPED_TRACE(command.words.join(u' ').toStdString());
+        restore();
+        const int length = runKilled(command.words, From::Start, {});
+        const QStringList after{planning(), ring()};
+        restore();
+        if (!command.begun.isEmpty()) program(command.begun);
+        const QStringList begun{planning(), ring()};
+        for (int i = 0; i < times && !HasFailure(); ++i) {
+            restore();
+            const From from = i % 2 == 0 ? From::FirstWrite : From::Start;
+            const int latest = from == From::Start ? length : length / 2;
+            runKilled(command.words, from, std::uniform_int_distribution<int>(0, latest)(random));
+            expectSound();
+            expectWhole(command, before, begun, after);
+        }
+    }
+}
+
+TEST_F(KillTest, LeavesAnInstallationThatCanBeFinished)
+{
+    std::mt19937 random(static_cast<unsigned>(setting("VELMORA_SEED", 1)));
+    const int times = setting("VELMORA_KILLS", 30) / 5;
+    const auto empty = [this] {
+        QDir folder(program.folder());
+        folder.removeRecursively();
+        folder.mkpath(QStringLiteral("."));
+    };
+    for (int i = 0; i < times && !HasFailure(); ++i) {
+        const QStringList words{i % 2 == 0 ? "init" : "demo"};
+        empty();
+        const int length = runKilled(words, From::Start, {});
+        empty();
+        runKilled(words, From::Start, std::uniform_int_distribution<int>(0, length)(random));
+        const bool complete = QFile::exists(program.base()) && QFile::exists(program.journal());
+        EXPECT_EQ(program({"init"}).status, complete ? 1 : 0);
+        expectSound();
+    }
 }

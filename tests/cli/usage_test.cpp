@@ -32,6 +32,7 @@ TEST(CommandLine, RefusesWrongUsageWithStatus2AndMakesNothing)
         {"copier", "1", "01/06/2026", "02/06/2026", "--vers", "2"},
         {"couper", "1", "01/06/2026", "--vers", "2", "10/06/2026"},
         {"supprimer", "1", "01/06/2026", "--vers", "2", "10/06/2026"},
+        {"verifie", "velmora.mdb"},
         {"ligne"},
         {"ligne", "nouvelle", "X"},
         {"ligne", "controles", "1", "--semaine", "48h99"},
@@ -79,6 +80,7 @@ TEST(CommandLine, TellsEveryCommandInTheHelp)
                                 "annuler",
                                 "refaire",
                                 "journal",
+                                "verifie",
                                 "ligne nouvelle",
                                 "ligne liste",
                                 "absence",
@@ -90,7 +92,8 @@ TEST(CommandLine, TellsEveryCommandInTheHelp)
                                 "imprimer ligne",
                                 "imprimer ensemble",
                                 "imprimer semaine",
-                                "imprimer codes"})
+                                "imprimer codes",
+                                "sauvegarde"})
         EXPECT_TRUE(run.out.contains(QStringLiteral("velmora ") + QLatin1String(command))) << command;
 }
 

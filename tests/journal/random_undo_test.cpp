@@ -3,6 +3,7 @@
 #include "journal/replay.h"
 #include "session/batch.h"
 #include "store/row_fields.h"
+#include "store/verification.h"
 
 #include "support/ring_model.h"
 #include "support/workstation.h"
@@ -244,6 +245,10 @@ TEST_P(RandomUndo, RowsEqualThoseOfTheModelAfterEachStep)
         compare();
     }
     undoAllAndRedoAll();
+    session.base.close();
+    session.journal.close();
+    for (const store::Constat &constat : store::verifieFichiers(station.folder()))
+        EXPECT_EQ(constat.gravite, store::Constat::Gravite::Remarque) << constat.phrase.toStdString();
 }
 
 /// Fixed seeds, and the one of VELMORA_SEED beside them.

@@ -38,13 +38,17 @@ private:
     QTemporaryDir m_directory;
 };
 
-/// The file's bytes as a digest, to see whether a refused file was written to. Only for files that no session
-/// has open: reading beside the engine lets go of its locks.
-inline QByteArray digest(const QString &path)
+/// The file's bytes. Only for files that no session has open: reading beside the engine lets go of its locks.
+inline QByteArray contentAt(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return {};
-    return QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The same as a digest, to see whether a refused file was written to.
+inline QByteArray digest(const QString &path)
+{
+    return QCryptographicHash::hash(contentAt(path), QCryptographicHash::Sha256);
 }
 
 inline void replaceContent(const QString &path, const QByteArray &content)
