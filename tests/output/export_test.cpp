@@ -167,7 +167,7 @@ TEST_F(ExportTest, TheHandOverOpensTheWorkbookAndSaysWhatFailed)
     QStringList copied;
     const auto handOver = [&] { remet(session, faite, [&](const QString &text) { copied << text; }); };
     handOver();
-    EXPECT_EQ(station.host.opened, QStringList{station.folder() + "Planning-Velmora.xlsx"});
+    EXPECT_EQ(station.host.opened, QStringList{station.folder() + "Planning-Velmora.xls"});
     EXPECT_EQ(copied, QStringList{faite.texte});
     station.host.opens = false;
     station.host.expectMessage("Pb lancement EXCEL ! Le résultat se trouve dans le fichier : " +

@@ -34,7 +34,10 @@ protected:
             note(session);
         }
     }
-    void note(Session &session) { standing.push_back({disk.moment(), planningOf(session), ringOf(session)}); }
+    void note(Session &session)
+    {
+        standing.push_back({disk.moment(), planningOf(session), ringOf(session), {}});
+    }
     void cut(int moment, std::mt19937 &random)
     {
         const auto left = disk.afterCut(moment, random);
