@@ -37,7 +37,7 @@ void jeuaudate(store::MainDatabase &base, const QDate &date)
 {
     auto &parcg = base.parcg;
     parcg.setIndex("parcg01");
-    if (!parcg.seek(Cmp::Le, {date})) parcg.first();
+    if (!parcg.seek(Cmp::Le, {date}) && parcg.status().ok()) parcg.first();
 }
 
 bool absjour(Session &session, int nump, const QDate &date)

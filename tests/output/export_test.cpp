@@ -143,7 +143,7 @@ TEST_F(ExportTest, TheWorkbookHoldsTextsAsTextsHoursAsNumbersAndDaysAsDates)
 
 TEST_F(ExportTest, ANameIsNeverAFormulaAndNeverMoreThanOneCell)
 {
-    const QStringList names{"=1+1", "+33 6", "-A", "@SUM(A1)", "a\tb\r\nc"};
+    const QStringList names{"=1+1", "+33 6", "-A", "@SUM(A1)", "\"BOB", "a\tb\r\nc"};
     for (int i = 0; i < names.size(); ++i)
         station.addLine(i + 1, names[i]);
     exportFebruary();
