@@ -30,7 +30,7 @@ public:
     }
     QDate today() const override { return {2026, 6, 15}; }
     QDateTime now() const override { return {today(), QTime(8, 15)}; }
-    void open(const QString &) override {}
+    bool open(const QString &) override { return true; }
     [[noreturn]] void endProcess() override { throw ProcessEnded{}; }
 };
 
