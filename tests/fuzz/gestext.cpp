@@ -16,7 +16,9 @@ void type(FieldView &field, const FieldRules &rule, quint16 key)
 {
     const FieldOutcome outcome = gestext(field, rule, u"KP", key);
     QString insertion = outcome.insertion;
-    if (insertion.isEmpty() && outcome.key >= u' ') insertion = QString(QChar(outcome.key));
+    // Control characters, of which 127 is one, are commands.
+    if (insertion.isEmpty() && outcome.key >= u' ' && outcome.key != 127)
+        insertion = QString(QChar(outcome.key));
     if (insertion.isEmpty()) return;
     field.text.replace(field.cursor, field.selectionLength, insertion);
     field.cursor += static_cast<int>(insertion.size());

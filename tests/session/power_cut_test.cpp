@@ -28,15 +28,17 @@ protected:
         AnsweringHost host;
         Session session(host);
         files.start(session);
-        note(session);
+        note(session, {});
         for (const SessionCommand &command : everyCommand()) {
+            QString asked;
+            host.whenAsked = [&] { asked = ringOf(session); };
             command.run(session);
-            note(session);
+            note(session, asked);
         }
     }
-    void note(Session &session)
+    void note(Session &session, const QString &asked)
     {
-        standing.push_back({disk.moment(), planningOf(session), ringOf(session), {}});
+        standing.push_back({disk.moment(), planningOf(session), ringOf(session), asked});
     }
     void cut(int moment, std::mt19937 &random)
     {
