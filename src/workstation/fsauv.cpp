@@ -27,6 +27,7 @@ Fsauv::Fsauv(Session &session, QWidget *parent)
     // A target from elsewhere may be longer than what is typed here; half of it could be another folder.
     m_text1->setMaxLength(qMax(longueurCible, int(m_cible.size())));
     m_text1->setText(m_cible);
+    m_text1->setFocus();
     connect(m_command1, &QPushButton::clicked, this, &Fsauv::accept);
     connect(m_command2, &QPushButton::clicked, this, &Fsauv::reject);
 }

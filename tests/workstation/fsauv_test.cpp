@@ -43,7 +43,7 @@ TEST_F(FsauvTest, BacksUpByKeysOnceTheTargetStands)
     station.host.expectMessage("Chemin non retrouvé ou périphérique indisponible!");
     station.host.expectMessage(done());
     onModal([&](QWidget &dialog) {
-        EXPECT_TRUE(control<QLineEdit>(dialog, "Text1").hasFocus());
+        EXPECT_EQ(dialog.focusWidget(), &control<QLineEdit>(dialog, "Text1"));
         EXPECT_FALSE(answer(dialog, "F", Qt::Key_Return));
         // What was refused is selected: typing replaces it.
         EXPECT_FALSE(answer(dialog, "F:", Qt::Key_Return));
