@@ -77,9 +77,9 @@ Status holdSource(Connection &from, const QString &source, std::chrono::millisec
 {
     Status status = checkSource(source);
     if (status.ok()) status = from.open(source, SQLITE_OPEN_READWRITE);
+    if (!status.ok()) return status;
     from.waitForLocks(busyWait);
-    if (status.ok()) status = from.execute("BEGIN; SELECT count(*) FROM sqlite_master");
-    return status;
+    return from.execute("BEGIN; SELECT count(*) FROM sqlite_master");
 }
 
 /// Makes the new file. Nobody else knows it, and half of it is thrown away: it needs no journal.
