@@ -1,6 +1,7 @@
 #include "absences/absence_entry.h"
 
 #include "absences/codes.h"
+#include "session/batch.h"
 #include "session/records.h"
 
 namespace velmora
@@ -42,6 +43,10 @@ bool codeok(Session &session, const QString &texte)
 {
     session.abscode = codeAligne(texte);
     if (cherchecode(session, session.abscode)) return true;
+    if (!session.base.codabs.status().ok()) {
+        ditEchecDisque(session);
+        return false;
+    }
     session.host.message(QStringLiteral("code Absence non autorisé ou erroné!"), titre);
     return false;
 }

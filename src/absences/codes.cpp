@@ -132,18 +132,19 @@ void FicheCode::choisit(Valorisation choix)
     if (choix == Valorisation::Jamais) valeur = QStringLiteral("0h00");
 }
 
-std::vector<CodeAbsence> codesDeLaTable(Session &session)
+std::vector<CodeAbsence> codesDeLaTable(Session &session, store::Status *lecture)
 {
     std::vector<CodeAbsence> codes;
     auto lus = session.base.codabs.range("codabs01", {}, {});
     while (lus.next())
         codes.push_back(lus.row());
+    if (lecture) *lecture = lus.status();
     return codes;
 }
 
-std::vector<CodeAbsence> codesDeLaListe(Session &session)
+std::vector<CodeAbsence> codesDeLaListe(Session &session, store::Status *lecture)
 {
-    auto codes = codesDeLaTable(session);
+    auto codes = codesDeLaTable(session, lecture);
     std::stable_partition(codes.begin(), codes.end(), [](const CodeAbsence &code) { return !code.barc; });
     return codes;
 }

@@ -38,11 +38,12 @@ struct FicheCode {
     void choisit(Valorisation choix);
 };
 
-/// Every code in the order of its index, archived ones included. A read that fails gives fewer.
-[[nodiscard]] std::vector<CodeAbsence> codesDeLaTable(Session &session);
+/// Every code in the order of its index, archived ones included. A read that fails gives fewer, and `lecture`
+/// tells it.
+[[nodiscard]] std::vector<CodeAbsence> codesDeLaTable(Session &session, store::Status *lecture = nullptr);
 
 /// The same as the list shows them: those that are not archived, then the archived ones.
-[[nodiscard]] std::vector<CodeAbsence> codesDeLaListe(Session &session);
+[[nodiscard]] std::vector<CodeAbsence> codesDeLaListe(Session &session, store::Status *lecture = nullptr);
 
 /// What the field of a code holds after a change: at most two characters, a single one after a blank, and
 /// nothing for blanks.

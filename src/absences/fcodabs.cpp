@@ -3,6 +3,7 @@
 #include "absences/code_sample.h"
 #include "absences/majcodabs.h"
 #include "session/help.h"
+#include "session/records.h"
 #include "workstation/controls.h"
 
 #include <QBoxLayout>
@@ -191,7 +192,14 @@ void Fcodabs::edite(const FicheCode &fiche)
 
 void Fcodabs::modifie()
 {
-    if (const CodeAbsence *const code = choisi()) edite(ficheDe(*code));
+    const CodeAbsence *const code = choisi();
+    if (!code) return;
+    // The row as it is now: another workstation may have changed it since the list was filled.
+    const QString choisie = code->codabs;
+    if (cherchecode(m_session, choisie))
+        edite(ficheDe(m_session.base.codabs.row()));
+    else
+        remplit(choisie);
 }
 
 void Fcodabs::supprime()

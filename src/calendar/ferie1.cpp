@@ -50,8 +50,8 @@ void Ferie1::construit()
     m_command2 = bouton(this, "Command2", QStringLiteral("Ajouter"));
     m_command4 = bouton(this, "Command4", QStringLiteral("Modifier"));
     m_command3 = bouton(this, "Command3", QStringLiteral("Supprimer"));
-    m_command5 = bouton(this, "Command5", QStringLiteral("?"));
     m_command1 = bouton(this, "Command1", QStringLiteral("Terminer"));
+    m_command5 = bouton(this, "Command5", QStringLiteral("?"));
 }
 
 void Ferie1::dispose()

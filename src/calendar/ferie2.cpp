@@ -35,9 +35,9 @@ void Ferie2::construit()
     setWindowTitle(QStringLiteral("Saisie d'un jour Férié "));
     m_text1 = nomme(new QLineEdit(this), "Text1");
     m_text3 = nomme(new QLineEdit(this), "Text3");
-    m_command3 = bouton(this, "Command3", QStringLiteral("?"));
     m_command1 = bouton(this, "Command1", QStringLiteral("OK"));
     m_command2 = bouton(this, "Command2", QStringLiteral("Annuler"));
+    m_command3 = bouton(this, "Command3", QStringLiteral("?"));
 }
 
 void Ferie2::dispose()
@@ -48,7 +48,7 @@ void Ferie2::dispose()
     auto *const champs = new QFormLayout;
     champs->addRow(QStringLiteral("Date "), m_text1);
     champs->addRow(QStringLiteral("Libellé"), m_text3);
-    auto *const page = new QVBoxLayout(this);
+    QVBoxLayout *const page = pageDialogue(this);
     page->addLayout(champs);
     page->addStretch();
     page->addLayout(rangeeCommandes(this, m_command3, {m_command1, m_command2}));

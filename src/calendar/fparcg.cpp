@@ -53,8 +53,8 @@ void Fparcg::construit()
     m_command2 = bouton(this, "Command2", QStringLiteral("Ajouter"));
     m_command3 = bouton(this, "Command3", QStringLiteral("Modifier"));
     m_command4 = bouton(this, "Command4", QStringLiteral("Supprimer"));
-    m_command5 = bouton(this, "Command5", QStringLiteral("?"));
     m_command1 = bouton(this, "Command1", QStringLiteral("Terminer"));
+    m_command5 = bouton(this, "Command5", QStringLiteral("?"));
     nomme(&m_timer1, "Timer1")->setSingleShot(true);
 }
 

@@ -63,9 +63,9 @@ void Fparcgs::construit()
     m_text1->setAccessibleName(m_frame2->title());
     m_combo2->setAccessibleName(m_frame5->title());
     m_text2->setAccessibleName(m_frame11->title());
-    m_command3 = bouton(this, "Command3", QStringLiteral("?"));
     m_command1 = bouton(this, "Command1", QStringLiteral("OK"));
     m_command2 = bouton(this, "Command2", QStringLiteral("Annuler"));
+    m_command3 = bouton(this, "Command3", QStringLiteral("?"));
     nomme(&m_timer1, "Timer1")->setSingleShot(true);
 }
 
@@ -77,7 +77,7 @@ void Fparcgs::dispose()
     m_frame2->layout()->addWidget(m_text1);
     m_frame5->layout()->addWidget(m_combo2);
     m_frame11->layout()->addWidget(m_text2);
-    auto *const page = new QVBoxLayout(this);
+    QVBoxLayout *const page = pageDialogue(this);
     for (QWidget *un : {static_cast<QWidget *>(m_frame2), static_cast<QWidget *>(m_frame5),
                         static_cast<QWidget *>(m_label4), static_cast<QWidget *>(m_frame11)})
         page->addWidget(un);
@@ -103,7 +103,7 @@ void Fparcgs::charge()
     m_combo2->setCurrentIndex(depart.region);
     m_text2->setText(depart.nometab);
     (m_session.modeajout ? static_cast<QWidget *>(m_text1) : m_combo2)->setFocus();
-    m_text1->selectAll(); // the focus may have come before the text
+    if (m_session.modeajout) m_text1->selectAll(); // the focus may have come before the text
     m_pret = true;
 }
 

@@ -16,6 +16,7 @@ namespace
 /// `act` of a row that beginning anew may delete; a row entered by hand has 1.
 constexpr int genere = 0;
 constexpr int anneesGenerees = 2;
+constexpr int derniereAnnee = 9999; // the last that a date has a text for
 
 /// Whether the region in force on a date observes a rule. Without any set there is no region.
 bool observee(store::MainDatabase &base, int regle, const QDate &date)
@@ -69,6 +70,7 @@ bool feriesAJour(store::MainDatabase &base, const QDate &aujourdhui)
 
 Status genannee(store::MainDatabase &base, const QDate &depuis, int annee)
 {
+    if (annee > derniereAnnee) return {};
     auto &ferie = base.ferie;
     ferie.setIndex("ferie01");
     // The order decides: of two rules on one date the higher number is written, and the other finds the date

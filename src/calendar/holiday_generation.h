@@ -20,7 +20,8 @@ struct DemandeFeries {
 
 /// Brings the holidays up to date, asking and telling nothing. Begun anew, or when there is no row at all,
 /// the generated rows from `dateappli` on go, and exactly the year of that date and the next one are
-/// generated, whatever the years of the rows that went. Else this year and the next are added as far as they
+/// generated, whatever the years of the rows that went: the years between them and this one stay empty, which
+/// is wanted. Else this year and the next are added as far as they
 /// lie after the year of the last row, however little of that year there is.
 [[nodiscard]] store::Status genereferies(store::MainDatabase &base, const QDate &aujourdhui,
                                          const DemandeFeries &demande);

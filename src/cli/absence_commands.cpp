@@ -31,8 +31,9 @@ int place(Session &session, const QStringList &mots)
     const ChampsAbsence champs{mots[1], mots[2], texteCode(session.base.codabs.row())};
     const auto jours = absvalide(session, champs);
     if (!jours) return refuse;
-    const JoursLigne ouverts =
-        litJours(session, mots[0], Foncgen::dtoc(jours->debut), Foncgen::dtoc(jours->fin));
+    // As in the window, where the first day is a cell of the line and the return is free.
+    const QString premier = Foncgen::dtoc(jours->debut);
+    const JoursLigne ouverts = litJours(session, mots[0], premier, premier);
     if (!ouverts.refus.isEmpty()) return refus(ouverts.refus);
     prepareAbsence(session, ouverts.ligne.nom, ouverts.ligne.nump, jours->debut, jours->fin);
     return saisieabs(session, champs) ? reussi : refuse;

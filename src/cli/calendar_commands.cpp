@@ -5,6 +5,7 @@
 #include "cli/output.h"
 #include "cli/start.h"
 #include "foncgen/foncgen.h"
+#include "foncgen/gestext.h"
 #include "session/batch.h"
 #include "session/records.h"
 
@@ -55,11 +56,17 @@ int commandeParametresListe(const Appel &appel)
     return surSession(appel, listeParametres);
 }
 
+/// A text as the dialogs' fields take it: no control characters.
+QString saisi(const QString &mot)
+{
+    return admissible(FieldType::Free, static_cast<int>(mot.size()), mot);
+}
+
 /// Stores a set as the dialog does: the holidays begin anew from its date.
 int enregistre(const Appel &appel, bool ajout)
 {
     const auto region = entier(appel.mots[1], 0, static_cast<int>(regions().size()) - 1);
-    const QString &nom = appel.mots[2];
+    const QString nom = saisi(appel.mots[2]);
     if (!region) return refus(QStringLiteral("La région va de 0 à %1.").arg(regions().size() - 1));
     if (nom.size() > longueurNom) return refus(tropLong(longueurNom, nom));
     return surDate(appel, appel.mots[0], [&](Session &session, const QDate &date) {
@@ -118,7 +125,7 @@ int commandeFeries(const Appel &appel)
 
 int commandeFeriesAjouter(const Appel &appel)
 {
-    const QString &lib = appel.mots[1];
+    const QString lib = saisi(appel.mots[1]);
     if (lib.size() > longueurLibelle) return refus(tropLong(longueurLibelle, lib));
     return surDate(appel, appel.mots[0], [&](Session &session, const QDate &date) {
         return rend(ajouteferie(session, date, lib));
@@ -132,7 +139,7 @@ int pasFerie(const QDate &date)
 
 int commandeFeriesModifier(const Appel &appel)
 {
-    const QString &lib = appel.mots[1];
+    const QString lib = saisi(appel.mots[1]);
     if (lib.size() > longueurLibelle) return refus(tropLong(longueurLibelle, lib));
     return surDate(appel, appel.mots[0], [&](Session &session, const QDate &date) {
         if (!jourferie(session, date)) return pasFerie(date);
@@ -152,7 +159,8 @@ int commandeFeriesGenerer(const Appel &appel)
 {
     return surSession(appel, [](Session &session) {
         // The window can't be reached without a set either.
-        if (session.base.parcg.isEmpty()) return refus(QStringLiteral("Il n'y a aucun jeu de paramètres."));
+        if (session.base.parcg.isEmpty() && session.base.parcg.status().ok())
+            return refus(QStringLiteral("Il n'y a aucun jeu de paramètres."));
         return rendFeries(session, {false, session.host.today()});
     });
 }

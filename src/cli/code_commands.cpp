@@ -7,6 +7,8 @@
 #include "foncgen/gestext.h"
 #include "session/records.h"
 
+#include <algorithm>
+
 namespace velmora::cli
 {
 
@@ -37,7 +39,9 @@ std::optional<int> litCouleur(const QString &texte)
 {
     bool lisible = false;
     const int couleur = texte.toInt(&lisible, 16);
-    const bool chiffres = texte.size() == 6 && texte.front().isLetterOrNumber();
+    const bool chiffres = texte.size() == 6 && std::all_of(texte.begin(), texte.end(), [](QChar c) {
+                              return (c >= u'0' && c <= u'9') || (c.toLower() >= u'a' && c.toLower() <= u'f');
+                          });
     return chiffres && lisible ? std::optional(couleur) : std::nullopt;
 }
 
@@ -136,7 +140,10 @@ int supprime(Session &session, const Appel &appel)
 
 int liste(Session &session)
 {
-    for (const CodeAbsence &code : codesDeLaListe(session))
+    store::Status lecture;
+    const auto codes = codesDeLaListe(session, &lecture);
+    if (!lecture.ok()) return refus(QStringLiteral("Les codes absence ne peuvent pas être lus."));
+    for (const CodeAbsence &code : codes)
         imprimeChamps(textesRangee(code));
     return reussi;
 }

@@ -3,6 +3,7 @@
 #include "cli/start.h"
 #include "folders/composition.h"
 #include "folders/folder_list.h"
+#include "foncgen/gestext.h"
 
 #include <limits>
 #include <set>
@@ -52,9 +53,15 @@ int compose(Session &session, const QString &nom, const QStringList &nump)
     return composition.valide(nom) && composition.enregistre(nom) ? reussi : refuse;
 }
 
+/// A name as the dialog's field takes it: capitals, and no control characters. Blanks around it stay.
+QString nomSaisi(const QString &mot)
+{
+    return admissible(FieldType::Capitals, static_cast<int>(mot.size()), mot);
+}
+
 int commandeDossierAjouter(const Appel &appel)
 {
-    const QString &nom = appel.mots[0];
+    const QString nom = nomSaisi(appel.mots[0]);
     if (nom.size() > longueurNom) return refus(tropLong(longueurNom, nom));
     return surSession(appel, [&](Session &session) {
         session.modeajout = true;

@@ -86,10 +86,15 @@ int statut(const IssueLigne &issue)
     return issue.faite ? reussi : refuse;
 }
 
-/// A name without the control characters that no field takes.
+/// A name as the dialog's field takes it: capitals, and no control characters.
 QString nom(const QString &mot)
 {
-    return admissible(FieldType::Free, static_cast<int>(mot.size()), mot);
+    return admissible(FieldType::Capitals, static_cast<int>(mot.size()), mot).trimmed();
+}
+
+QString refusNom(const QString &mot)
+{
+    return nom(mot).size() > longueurNom ? tropLong(longueurNom, mot) : QString();
 }
 
 int nouvelle(const Appel &appel)
@@ -97,6 +102,8 @@ int nouvelle(const Appel &appel)
     return avecLimites(appel, [&](Session &session, const ChampsControles &champs) {
         const QDate debut = Foncgen::ctod(appel.mots[1]);
         if (!debut.isValid()) return refus(dateIllisible(appel.mots[1]));
+        if (const QString impossible = refusNom(appel.mots[0]); !impossible.isEmpty())
+            return refus(impossible);
         const IssueLigne issue = nouvelleLigne(session, nom(appel.mots[0]), debut, champs);
         if (issue.faite) imprimeChamps({texteChamp(session.base.ligmois.lastModified().row().nump)});
         return statut(issue);
@@ -126,6 +133,8 @@ int reouvre(const Appel &appel)
 int renomme(const Appel &appel)
 {
     return surLigne(appel, [&](Session &session, const Ligne &ligne) {
+        if (const QString impossible = refusNom(appel.mots[1]); !impossible.isEmpty())
+            return refus(impossible);
         return statut(renommeLigne(session, ligne, nom(appel.mots[1])));
     });
 }

@@ -19,6 +19,12 @@ namespace
 
 const QString titreDossier = QStringLiteral("Velmora");
 
+/// Whether a folder has the name, as it is typed or without the blanks around it: a head row keeps them.
+bool nomPris(Session &session, const QString &texte)
+{
+    return placedossier(session, texte.trimmed()) || placedossier(session, texte);
+}
+
 bool refuseNom(Session &session)
 {
     session.host.message(QStringLiteral("dossier déjà défini - changez la désignation !"), titreDossier);
@@ -75,7 +81,7 @@ bool CompositionDossier::valide(const QString &texte) const
         host.message(QStringLiteral("donner une appellation au dossier !"), titreDossier);
         return false;
     }
-    if (m_session.modeajout && placedossier(m_session, nom)) return refuseNom(m_session);
+    if (m_session.modeajout && nomPris(m_session, texte)) return refuseNom(m_session);
     const bool garni = std::any_of(m_lignes.begin(), m_lignes.end(),
                                    [](const LigneCochable &ligne) { return ligne.cochee; });
     return garni || host.question(QStringLiteral(" aucune ligne n'est sélectée : continuer ?"), titreDossier);
@@ -88,8 +94,7 @@ bool CompositionDossier::enregistre(const QString &texte)
     const bool fait = enLot(m_session, [&] {
         // Another workstation can have given the name since it was checked. A second try may find the head
         // row of the first.
-        pris =
-            m_session.modeajout && !std::exchange(repris, true) && placedossier(m_session, texte.trimmed());
+        pris = m_session.modeajout && !std::exchange(repris, true) && nomPris(m_session, texte);
         return pris ? Status{} : ecrit(texte);
     });
     if (pris) return refuseNom(m_session);

@@ -15,7 +15,8 @@ namespace
 
 constexpr int tete = 0; // `nump` of a head row
 
-/// Deletes the rows of a folder, its head first.
+/// Deletes the rows of a folder, its head first. The name compares exactly: members under the trimmed name of
+/// a head row with blanks stay. Wanted.
 Status supprime(Session &session, const QString &nom)
 {
     auto &groupe = session.base.groupe;

@@ -46,8 +46,8 @@ void Groupt::construit()
     m_command3 = bouton(this, "Command3", QStringLiteral("Ajouter"));
     m_command4 = bouton(this, "Command4", QStringLiteral("Modifier"));
     m_command5 = bouton(this, "Command5", QStringLiteral("Supprimer"));
-    m_caid = bouton(this, "Caid", QStringLiteral("?"));
     m_command1 = bouton(this, "Command1", QStringLiteral("Terminer"));
+    m_caid = bouton(this, "Caid", QStringLiteral("?"));
 }
 
 void Groupt::dispose()

@@ -58,7 +58,7 @@ void Planshgroup::dispose()
     m_list1->setMinimumSize(lettre * lettresLigne, fontMetrics().height() * rangees);
     (new QVBoxLayout(m_cadreNom))->addWidget(m_text1);
     (new QVBoxLayout(m_cadreLignes))->addWidget(m_list1);
-    auto *const page = new QVBoxLayout(this);
+    QVBoxLayout *const page = pageDialogue(this);
     page->addWidget(m_cadreNom);
     page->addWidget(m_cadreLignes, 1);
     page->addLayout(rangeeCommandes(this, nullptr, {m_command1, m_command2}));

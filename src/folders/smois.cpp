@@ -3,13 +3,13 @@
 #include "folders/folder_choice.h"
 #include "session/help.h"
 #include "workstation/controls.h"
+#include "workstation/list_window.h"
 
 #include <QBoxLayout>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QScrollBar>
-#include <QShortcut>
 
 namespace velmora
 {
@@ -93,11 +93,9 @@ void Smois::dispose()
     milieu->setSpacing(18);
     milieu->addLayout(disposeDossiers(), 1);
     milieu->addLayout(droite);
-    auto *const page = new QVBoxLayout(this);
-    page->setSpacing(14);
-    page->setContentsMargins(18, 16, 18, 14);
+    QVBoxLayout *const page = pageDialogue(this);
     page->addLayout(milieu, 1);
-    page->addLayout(disposeCommandes());
+    page->addLayout(rangeeCommandes(this, m_command3, {m_command1, m_command2}));
 }
 
 QLayout *Smois::disposeDossiers()
@@ -128,21 +126,6 @@ QLayout *Smois::disposeMois()
     return colonne;
 }
 
-QLayout *Smois::disposeCommandes()
-{
-    m_command1->setDefault(true);
-    m_command2->setAutoDefault(false);
-    m_command3->setAutoDefault(false);
-    m_command3->setToolTip(QStringLiteral("Aide"));
-    m_command3->setAccessibleName(m_command3->toolTip());
-    auto *const ligne = new QHBoxLayout;
-    ligne->addWidget(m_command3);
-    ligne->addStretch();
-    ligne->addWidget(m_command1);
-    ligne->addWidget(m_command2);
-    return ligne;
-}
-
 void Smois::relie()
 {
     connect(m_vs1, &QScrollBar::valueChanged, this, &Smois::vs1Change);
@@ -151,8 +134,6 @@ void Smois::relie()
     connect(m_command2, &QPushButton::clicked, this, &Smois::reject);
     connect(m_command3, &QPushButton::clicked, this,
             [this] { ouvreaide(m_session, QStringLiteral("acces-planning.htm")); });
-    auto *const f1 = new QShortcut(QKeySequence::HelpContents, this);
-    connect(f1, &QShortcut::activated, m_command3, &QPushButton::click);
 }
 
 void Smois::ouvre()

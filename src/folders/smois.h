@@ -38,7 +38,6 @@ private:
     void dispose();
     QLayout *disposeDossiers();
     QLayout *disposeMois();
-    QLayout *disposeCommandes();
     void relie();
 
     void ouvre();

@@ -35,7 +35,8 @@ IssueLigne verifieRepos(Session &session, const ChampsControles &champs)
     return refuse(session, QStringLiteral("Plus de repos contigüs que de repos totaux !"), ChampLigne::Nrepd);
 }
 
-/// The week and the rest have no range that would refuse what can't be read.
+/// The week and the rest have no range that would refuse what can't be read. The rest is only asked to be
+/// readable: its size isn't looked at.
 IssueLigne verifieLisibles(Session &session, const ChampsControles &champs)
 {
     for (const auto &[texte, champ] :
@@ -48,6 +49,7 @@ IssueLigne verifieLisibles(Session &session, const ChampsControles &champs)
 IssueLigne verifieSemaine(Session &session, const ChampsControles &champs)
 {
     const int maxs = minutesTapees(champs.maxs);
+    if (maxs == Foncgen::horsPlage) return {true};
     if ((maxs <= 0 || maxs >= semaineMini) && maxs <= semaineMaxi) return {true};
     // A week too long is said in the words of one too short. Wanted.
     const QString question = QStringLiteral("Valeur maxi semaine anormalement basse! Continuer ?");
@@ -101,7 +103,7 @@ IssueLigne verifieControles(Session &session, const ChampsControles &champs)
 {
     IssueLigne issue = verifieRepos(session, champs);
     if (!champs.bcontrolh) return issue;
-    for (const auto verifie : {verifieLisibles, verifieSemaine, verifieJour})
+    for (const auto verifie : {verifieSemaine, verifieJour, verifieLisibles})
         if (issue.faite) issue = verifie(session, champs);
     return issue;
 }

@@ -155,6 +155,8 @@ bool retireEtFait(Session &session, int nump, const Key &depuis, const QString &
         if (heures && !session.host.question(question, titreQuestion())) return false;
         const bool faite = enLot(session, [&] {
             heures = trouveHeures(session, nump, depuis);
+            const Status lecture = session.base.sitper.status();
+            if (!lecture.ok()) return lecture;
             if (heures && !accord) return Status{};
             const Status retirees = retireHeures(session, nump, depuis);
             return retirees.ok() ? suite() : retirees;

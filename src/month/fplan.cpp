@@ -260,12 +260,7 @@ void Fplan::rafraichit()
         },
         [this] { montreCommandes(); });
     if (!vivante || m_ferme) return;
-    cycle(m_planning);
-    m_date->setText(QStringLiteral("le : ") + Foncgen::dtoc(m_planning.dateStatut));
-    m_statut->setText(m_planning.texteStatut);
-    m_statut->setToolTip(m_planning.texteStatut.toHtmlEscaped());
     montreZoom();
-    montreCommandes();
     if (m_mg->isVisible() && m_mg->isEnabled()) m_mg->setFocus();
 }
 

@@ -1,6 +1,7 @@
 #include "month/fplan.h"
 
 #include "absences/saisabs.h"
+#include "month/refresh.h"
 #include "month/selection.h"
 
 namespace velmora
@@ -29,6 +30,11 @@ void Fplan::saisitAbsence()
     m_timer3.stop();
     const Place place = m_planning.curseur;
     if (!m_planning.grille.estLigne(place.ligne)) return lanceCycle();
+    // A line deleted elsewhere: its number may become another's.
+    if (!positionneLigne()) {
+        ditErreurBase(m_planning);
+        return finitCode();
+    }
     const Selection &selection = m_planning.selection;
     const auto fin = selection.selact ? std::optional(m_planning.date(selection.selfin)) : std::nullopt;
     prepareAbsence(m_session, m_planning.grille.lit(place.ligne, Grille::colonneNom).texte,

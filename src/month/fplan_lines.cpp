@@ -21,7 +21,7 @@ void Fplan::relieLignes()
         if (demande<Fligf>(ligne)) suitDates(m_planning, ligne.nump);
     });
     lie("mnureouv", [this](const Ligne &ligne) {
-        if (reouvreLigne(m_session, ligne).faite) suitDates(m_planning, ligne.nump);
+        if (reouvreLigne(m_session, ligne).faite && !m_ferme) suitDates(m_planning, ligne.nump);
     });
     lie("mnucont", [this](const Ligne &ligne) {
         if (demande<Fligc>(ligne)) suitControles(m_planning, ligne.nump);

@@ -71,6 +71,8 @@ void Fplan::relieZoom()
         m_menus.lie(nom, this, [this, zoom = zoom] { choisitZoom(zoom); });
     }
     connect(m_zoom, &TableauBarres::rangeeCliquee, this, &Fplan::zoomClique);
+    connect(&m_zoom->modele(), &QAbstractItemModel::modelReset, this,
+            [this] { regleColonnes(m_zoom->table()); });
     connect(m_mg->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int ligne) {
         if (m_zoomact) m_zoom->commenceA(ligne);
     });
@@ -113,7 +115,6 @@ void Fplan::montreZoom()
     for (LigneZoom &ligne : zoom.lignes)
         rangees.push_back({textesZoom(ligne), std::move(ligne.barres)});
     m_zoom->montre(titresZoom(zoom), std::move(rangees));
-    regleColonnes(m_zoom->table());
     m_zoom->designe(ModeleGrille::ligneVue(m_planning.curseur.ligne));
 }
 

@@ -85,7 +85,8 @@ public:
         LigneZoom une;
         une.nump = m_planning.grille.numligne(rangee);
         une.nom = m_planning.grille.lit(rangee, Grille::colonneNom).texte;
-        const bool absente = absjour(m_session, une.nump, m_date);
+        const bool absente = !fermee(rangee) && absjour(m_session, une.nump, m_date);
+        if (m_status.ok()) m_status = m_session.base.absences.status();
         if (absente) absence(une);
         if (const JourSit *veille = m_jours.veille(une.nump); veille && passeMinuit(*veille))
             nuit(une, *veille);

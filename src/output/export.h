@@ -11,9 +11,9 @@ namespace velmora
 /// spreadsheet programs expect of this kind of text, tabs between the cells, CR and LF at the end of a row.
 inline const QString fichierExport = QStringLiteral("Velexc.txt");
 
-/// Name of the workbook, in the first folder of the session. It ends as what it is: a spreadsheet program
-/// warns of a workbook of this form that bears the older ".xls".
-inline const QString classeurExport = QStringLiteral("Planning-Velmora.xlsx");
+/// Name of the workbook, in the first folder of the session. The older ending is the one that installations
+/// know; spreadsheet programs go by the content.
+inline const QString classeurExport = QStringLiteral("Planning-Velmora.xls");
 
 /// What an export has made.
 struct Exportation {

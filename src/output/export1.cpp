@@ -73,6 +73,7 @@ void Export1::command1Click()
     m_pgb->show();
     const Exportation faite =
         exporte(m_session, m_datedeb, m_datefin, [this](int lues) { m_pgb->setValue(lues); });
+    unsetCursor();
     if (!faite.lecture.ok() || !faite.fichierEcrit) m_session.host.message(defautExport(faite), titre);
     remet(m_session, faite, [](const QString &texte) {
         QGuiApplication::clipboard()->clear();
@@ -81,7 +82,7 @@ void Export1::command1Click()
     m_pgb->setValue(0);
     m_pgb->hide();
     m_command1->setEnabled(true);
-    unsetCursor();
+    m_command1->setFocus();
 }
 
 } // namespace velmora

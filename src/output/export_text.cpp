@@ -133,14 +133,17 @@ QString texteBloc(const BlocExport &bloc)
 
 QString surUneCellule(QString texte)
 {
+    // Row ends of their own for some programs, and two characters that no workbook can hold.
     for (QChar &c : texte)
-        if (c.category() == QChar::Other_Control) c = QLatin1Char(' ');
+        if (c.category() == QChar::Other_Control || c.category() == QChar::Separator_Line ||
+            c.category() == QChar::Separator_Paragraph || c.unicode() >= 0xfffe)
+            c = QLatin1Char(' ');
     return texte;
 }
 
 QString sansFormule(const QString &texte)
 {
-    static const QString debuts = QStringLiteral("=+-@");
+    static const QString debuts = QStringLiteral("=+-@\"");
     return !texte.isEmpty() && debuts.contains(texte.front()) ? QLatin1Char(' ') + texte : texte;
 }
 

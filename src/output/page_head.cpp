@@ -24,11 +24,14 @@ constexpr int hautCadre = 484;
 constexpr int hauteurCadre = 442;
 constexpr int sousCadre = 120;
 
+/// The frame goes around both titles where there are two.
 int basCadre(const EntetePage &entete)
 {
     return hautCadre + hauteurCadre + (entete.titre2.isEmpty() ? 0 : pasTitre);
 }
 
+/// The establishment's name is the session's: empty until the dialog of a parameter set has opened, and
+/// prints made before bear none. Wanted.
 void ecritMoment(Imprimante &imprimante, const QString &nometab)
 {
     const QDateTime &moment = imprimante.moment();

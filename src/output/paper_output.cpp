@@ -100,6 +100,7 @@ void SortiePapier::imprime(const Impression &impression, int copies, const Progr
                              ? ecritPdf(fichier, impression, police(), m_session.host.now(), progres)
                              : imprimePapier(impression, copies, progres);
     QApplication::restoreOverrideCursor();
+    // The frame goes on past a failed step; a file that the user was promised is all that it tells about.
     if (!reussie && versFichier())
         m_session.host.message(QStringLiteral("Le fichier %1 ne peut pas être écrit.").arg(fichier), titre);
 }

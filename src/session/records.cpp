@@ -37,7 +37,7 @@ void jeuaudate(store::MainDatabase &base, const QDate &date)
 {
     auto &parcg = base.parcg;
     parcg.setIndex("parcg01");
-    if (!parcg.seek(Cmp::Le, {date})) parcg.first();
+    if (!parcg.seek(Cmp::Le, {date}) && parcg.status().ok()) parcg.first();
 }
 
 bool absjour(Session &session, int nump, const QDate &date)
@@ -51,6 +51,8 @@ bool absproche(Session &session, int nump, const QDate &date)
     auto &absences = session.base.absences;
     absences.setIndex("abs01");
     if (absences.seek(Cmp::Lt, {nump, date}) && absences.row().nump == nump) return true;
+    // A row that couldn't be read may be the span that covers the date.
+    if (!absences.status().ok()) return false;
     return absences.seek(Cmp::Ge, {nump, date}) && absences.row().nump == nump;
 }
 

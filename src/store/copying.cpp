@@ -1,6 +1,7 @@
 #include "store/copying.h"
 
 #include "store/file_replacement.h"
+#include "store/integrity.h"
 #include "store/sqlite_engine.h"
 
 #include <QFile>
@@ -129,10 +130,7 @@ CopyOutcome checkCopy(const QString &work)
     SqliteEngine engine;
     const Status status = engine.open(work, {.readOnly = true});
     if (!status.ok()) return {QFileInfo::exists(work) ? Fault::Copy : Fault::Target, status};
-    const auto check = engine.prepare(QStringLiteral("PRAGMA integrity_check(1)"));
-    if (!check) return {Fault::Copy, engine.status()};
-    if (check->step() == Statement::Step::Row && check->columnText(0) == "ok") return {};
-    return {Fault::Copy, {Status::Code::Damaged, QStringLiteral("the copy's structure is damaged")}};
+    return outcome(Fault::Copy, checkIntegrity(engine));
 }
 
 } // namespace

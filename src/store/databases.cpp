@@ -1,5 +1,7 @@
 #include "store/databases.h"
 
+#include "store/integrity.h"
+
 #include <QFile>
 
 #include <algorithm>
@@ -29,18 +31,6 @@ Status checkNotForeign(Engine &engine)
     const std::int64_t mark = fileMark(engine);
     if (mark == 0 || mark == static_cast<std::int64_t>(FileKind::Main)) return {};
     return {Status::Code::NotADatabase, QStringLiteral("the file belongs to another program")};
-}
-
-/// The indexes are compared with their tables too: a walk by an index that says other than its rows may never
-/// end. The journal is small enough for that.
-Status checkStructure(Engine &engine)
-{
-    const auto statement = engine.prepare(QStringLiteral("PRAGMA integrity_check(1)"));
-    if (!statement) return engine.status();
-    const auto step = statement->step();
-    if (step == Statement::Step::Failed) return statement->status();
-    if (step == Statement::Step::Row && statement->columnText(0) == "ok") return {};
-    return {Status::Code::Damaged, QStringLiteral("the file's structure is damaged")};
 }
 
 } // namespace
@@ -105,7 +95,9 @@ Status JournalDatabase::open(const QString &path)
 {
     close();
     Status status = engine.open(path, {.exclusive = true, .busyWait = journalWait});
-    if (status.ok()) status = checkStructure(engine);
+    // The indexes are compared with their tables too: a walk by an index that says other than its rows may
+    // never end. The journal is small enough for that.
+    if (status.ok()) status = checkIntegrity(engine);
     if (status.ok()) status = checkTables(engine, schemas());
     if (status.ok()) status = engine.adopt();
     if (!status.ok()) close();

@@ -36,10 +36,17 @@ QLayout *disposeVolet(const FenetreListe &fenetre)
 
 } // namespace
 
+QVBoxLayout *pageDialogue(QDialog *dialogue)
+{
+    auto *const page = new QVBoxLayout(dialogue);
+    page->setSpacing(14);
+    page->setContentsMargins(18, 16, 18, 14);
+    return page;
+}
+
 QLayout *rangeeCommandes(QDialog *dialogue, QPushButton *aide, const QList<QPushButton *> &fins)
 {
     auto *const rangee = new QHBoxLayout;
-    rangee->setContentsMargins(0, dialogue->fontMetrics().height() / 2, 0, 0);
     if (aide) {
         aide->setAutoDefault(false);
         aide->setToolTip(QStringLiteral("Aide"));
@@ -66,7 +73,7 @@ void disposeListe(QDialog *dialogue, const FenetreListe &fenetre, QWidget *entet
     auto *const milieu = new QHBoxLayout;
     milieu->addWidget(fenetre.liste, 1);
     milieu->addLayout(disposeVolet(fenetre));
-    auto *const page = new QVBoxLayout(dialogue);
+    QVBoxLayout *const page = pageDialogue(dialogue);
     if (entete) page->addWidget(entete);
     page->addLayout(milieu, 1);
     page->addLayout(rangeeCommandes(dialogue, fenetre.aide, {fenetre.terminer}));

@@ -4,14 +4,17 @@
 #include <QString>
 
 class QDialog;
-class QHBoxLayout;
 class QLayout;
 class QListWidget;
 class QPushButton;
+class QVBoxLayout;
 class QWidget;
 
 namespace velmora
 {
+
+/// The column that a dialog's contents stand in, with the margins of all dialogs.
+[[nodiscard]] QVBoxLayout *pageDialogue(QDialog *dialogue);
 
 /// The last row of a dialog: help on the left, which F1 presses too, the ends of the dialog on the right, the
 /// first of them the default one. `aide` may be null.

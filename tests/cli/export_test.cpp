@@ -26,14 +26,14 @@ TEST_F(Reports, TheExportWritesBothFilesAndPrintsTheirNames)
 {
     const Outcome done = program({"export", "6/2026"});
     EXPECT_EQ(done.status, 0) << done.err.toStdString();
-    EXPECT_EQ(done.lines(), QStringList({program.path("Velexc.txt"), program.path("Planning-Velmora.xlsx")}));
+    EXPECT_EQ(done.lines(), QStringList({program.path("Velexc.txt"), program.path("Planning-Velmora.xls")}));
     QFile text(program.path("Velexc.txt"));
     ASSERT_TRUE(text.open(QIODevice::ReadOnly));
     const QByteArray content = text.readAll();
     EXPECT_TRUE(content.contains("PLANNING Du 01/06/2026 au 30/06/2026"));
     EXPECT_TRUE(content.contains("H.D\xe9"
                                  "but\t8,00\t8,00\t8,00\t22,00\t - \t"));
-    QFile book(program.path("Planning-Velmora.xlsx"));
+    QFile book(program.path("Planning-Velmora.xls"));
     ASSERT_TRUE(book.open(QIODevice::ReadOnly));
     EXPECT_EQ(book.read(2), "PK");
 }

@@ -8,7 +8,6 @@ using namespace velmora;
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QDate date = Foncgen::ctod(fuzz::textOf(data, size));
-    if (date.isValid())
-        fuzz::require(Foncgen::ctod(Foncgen::dtoc(date)) == date, "a date survives its text");
+    if (date.isValid()) fuzz::require(Foncgen::ctod(Foncgen::dtoc(date)) == date, "a date survives its text");
     return 0;
 }

@@ -5,7 +5,8 @@
 
 using namespace velmora;
 
-/// A text that is read as hours is written and read again as the same ones, and any texts are hours that can be stored or none.
+/// A text that is read as hours is written and read again as the same ones, and any texts are hours that can
+/// be stored or none.
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QString text = fuzz::textOf(data, size);

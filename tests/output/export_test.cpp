@@ -143,7 +143,7 @@ TEST_F(ExportTest, TheWorkbookHoldsTextsAsTextsHoursAsNumbersAndDaysAsDates)
 
 TEST_F(ExportTest, ANameIsNeverAFormulaAndNeverMoreThanOneCell)
 {
-    const QStringList names{"=1+1", "+33 6", "-A", "@SUM(A1)", "a\tb\r\nc"};
+    const QStringList names{"=1+1", "+33 6", "-A", "@SUM(A1)", "\"BOB", "a\tb\r\nc"};
     for (int i = 0; i < names.size(); ++i)
         station.addLine(i + 1, names[i]);
     exportFebruary();
@@ -167,7 +167,7 @@ TEST_F(ExportTest, TheHandOverOpensTheWorkbookAndSaysWhatFailed)
     QStringList copied;
     const auto handOver = [&] { remet(session, faite, [&](const QString &text) { copied << text; }); };
     handOver();
-    EXPECT_EQ(station.host.opened, QStringList{station.folder() + "Planning-Velmora.xlsx"});
+    EXPECT_EQ(station.host.opened, QStringList{station.folder() + "Planning-Velmora.xls"});
     EXPECT_EQ(copied, QStringList{faite.texte});
     station.host.opens = false;
     station.host.expectMessage("Pb lancement EXCEL ! Le résultat se trouve dans le fichier : " +
