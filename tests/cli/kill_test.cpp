@@ -68,7 +68,6 @@ const Killed killed[] = {
     {{"dossier", "ajouter", "Nouveau", "1", "2", "3"}},
     {{"code", "ajouter", "ZZ", "Essai"}},
     {{"feries", "ajouter", "15/07/2026", "Fermeture"}},
-    {{"parametres", "ajouter", "01/01/2025", "1", "Maison"}},
     {{"mois", "6/2026"}},
     {{"verifie"}},
 };
