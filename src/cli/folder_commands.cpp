@@ -62,7 +62,7 @@ QString nomSaisi(const QString &mot)
 int commandeDossierAjouter(const Appel &appel)
 {
     const QString nom = nomSaisi(appel.mots[0]);
-    if (nom.size() > longueurNom) return refus(tropLong(longueurNom, nom));
+    if (nom.size() > longueurNom) return refus(tropLong(longueurNom, appel.mots[0]));
     return surSession(appel, [&](Session &session) {
         session.modeajout = true;
         return compose(session, nom, appel.mots.mid(1));

@@ -25,14 +25,15 @@ TEST(SaisabsTest, AWholeYearOpensOnItsFirstDateAndARefusalLeavesTheFocusWhereItW
     form.show();
     form.activateWindow();
     auto &from = control<QLineEdit>(form, "Text1");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return from.hasFocus() && from.hasSelectedText(); }));
+    auto &codes = control<QComboBox>(form, "Combo1");
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return codes.currentIndex() == 0 && from.hasFocus() && from.hasSelectedText(); }));
     EXPECT_FALSE(session.dlgvalide);
     EXPECT_EQ(form.windowTitle(), QStringLiteral("ANNE & <b>C°  pour  CP"));
     QTest::keyClicks(&from, QStringLiteral("04062026"));
     QTest::keyClick(&from, Qt::Key_Return);
     QTest::keyClicks(&control<QLineEdit>(form, "Text3"), QStringLiteral("04062026"));
     QTest::keyClick(&control<QLineEdit>(form, "Text3"), Qt::Key_Down);
-    auto &codes = control<QComboBox>(form, "Combo1");
     station.host.expectMessage(QStringLiteral("Date fin < date de début !"));
     QTest::keyClick(&codes, Qt::Key_Return);
     EXPECT_TRUE(form.isVisible() && codes.hasFocus());

@@ -89,7 +89,7 @@ TEST_F(GrouptTest, AFolderIsMadeByKeys)
     });
     EXPECT_TRUE(session.dlgvalide);
     EXPECT_EQ(stored(),
-              (QStringList{"<ÉQUIPE DE NUIT >|0|0", "<ÉQUIPE DE NUIT>|1|-1", "<ÉQUIPE DE NUIT>|2|-1"}));
+              (QStringList{"<ÉQUIPE DE NUIT>|1|-1", "<ÉQUIPE DE NUIT>|2|-1", "<ÉQUIPE DE NUIT >|0|0"}));
     EXPECT_EQ(texts(*form, "List1"), QStringList{"ÉQUIPE DE NUIT "});
     EXPECT_EQ(control<QListWidget>(*form, "List1").selectedItems().size(), 1) << "found again and selected";
 }

@@ -93,7 +93,7 @@ TEST_F(PrintDialogs, OfTheLinePrintsTheDatesOfTheBarsIntoTheFileAskedFor)
     EXPECT_EQ(lines[2], "Zoé");
     EXPECT_EQ(lines[3], "Jeu 04/06/2026 8h00 - 17h00");
     EXPECT_TRUE(form.isVisible());
-    EXPECT_TRUE(button(form, "Command1").hasFocus());
+    EXPECT_EQ(form.focusWidget(), &button(form, "Command1"));
     EXPECT_FALSE(control<QProgressBar>(form, "Pgb").isVisible());
     for (const char *name : {"Command1", "Command2", "Command3", "Command4"})
         EXPECT_TRUE(button(form, name).isEnabled()) << name;
@@ -178,6 +178,8 @@ TEST_F(PrintDialogs, OfTheWeekStartsAtTheCursorsDateAndTakesATypedOneWithinTheGr
     session.impfin = {2026, 8, 2};
     Fimpplh form(session);
     form.show();
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
     EXPECT_EQ(form.windowTitle(), "  Velmora Impression planning hebdomadaire");
     auto &date = control<QLineEdit>(form, "Text1");
     auto &bar = control<QScrollBar>(form, "VS1");
