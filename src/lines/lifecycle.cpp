@@ -78,11 +78,20 @@ IssueLigne refuseNom(Session &session)
 IssueLigne ecritSousNom(Session &session, const QString &nom, const QDate &date,
                         const std::function<Status()> &ecrit)
 {
+    auto &ligmois = session.base.ligmois;
     bool pris = false;
+    int ecrite = 0;
     const bool faite = enLot(session, [&] {
         pris = nomPris(session, nom, date);
-        const Status lecture = session.base.ligmois.status();
-        return pris || !lecture.ok() ? lecture : ecrit();
+        // A commit that the disk reported as failed may stand all the same: the next try meets its own row.
+        if (pris && ligmois.row().nump == ecrite) {
+            pris = false;
+            return Status{};
+        }
+        if (pris || !ligmois.status().ok()) return ligmois.status();
+        const Status status = ecrit();
+        if (status.ok()) ecrite = ligmois.lastModified().row().nump;
+        return status;
     });
     return pris ? refuseNom(session) : issue(session, faite);
 }
@@ -218,12 +227,17 @@ IssueLigne renommeLigne(Session &session, const Ligne &ligne, const QString &tex
 
 IssueLigne supprimeLigne(Session &session, const Ligne &ligne)
 {
-    const bool faite =
-        retireEtFait(session, ligne.nump, {ligne.nump},
-                     QStringLiteral("Des heures ont été saisies pour cette ligne !"), [&] {
-                         const Status present = place(session, ligne.nump);
-                         return present.ok() ? supprgarde(session, session.base.ligmois) : present;
-                     });
+    bool retiree = false;
+    const auto retire = [&] {
+        const Status present = place(session, ligne.nump);
+        // A commit that the disk reported as failed may stand all the same: the next try then meets no row.
+        if (retiree && present.code() == Status::Code::NoRow) return Status{};
+        const Status status = present.ok() ? supprgarde(session, session.base.ligmois) : present;
+        retiree = status.ok();
+        return status;
+    };
+    const bool faite = retireEtFait(session, ligne.nump, {ligne.nump},
+                                    QStringLiteral("Des heures ont été saisies pour cette ligne !"), retire);
     return issue(session, faite);
 }
 

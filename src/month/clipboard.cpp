@@ -179,7 +179,10 @@ bool retientJours(Session &session, Pressepapiers &presse, const Ligne &ligne, c
                   const QDate &fin)
 {
     Jours jours(static_cast<std::size_t>(debut.daysTo(fin) + 1));
-    enLot(session, [&] { return retient(session, presse, ligne, debut, fin, jours); });
+    // Days that the journal couldn't take would be held nowhere, and those of a cut lost: whole or not at
+    // all.
+    enLot(
+        session, [&] { return retient(session, presse, ligne, debut, fin, jours); }, Batch::Kind::Redo);
     presse.infobulle = apercu(jours, session.totcent);
     presse.clipcoupe = false;
     return std::any_of(jours.begin(), jours.end(), [](const auto &jour) { return jour.has_value(); });

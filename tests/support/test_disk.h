@@ -34,6 +34,8 @@ public:
 
     /// Starts to remember, with the content of these files as they are now.
     void remember(const QStringList &paths);
+    /// Ends the remembering: what comes after isn't part of the story.
+    void stopRemembering() { m_remembers = false; }
     [[nodiscard]] int moment() const { return static_cast<int>(m_changes.size()); }
     /// What a power cut after so many of the changes leaves, by the files' names: what had been synchronised,
     /// and of the rest a part that chance chooses, by sectors of 512 bytes.
