@@ -19,8 +19,8 @@ constexpr int jours = 7;
 int ecrit(const Session &session, const Appel &appel, const Impression &impression)
 {
     const QString fichier = appel.arguments.valeur("pdf");
-    if (ecritPdf(fichier, impression, {}, session.host.now())) return reussi;
-    return refus(QStringLiteral("Le fichier %1 ne peut pas être écrit.").arg(fichier));
+    const IssuePdf ecrite = ecritPdf(fichier, impression, {}, session.host.now());
+    return ecrite ? reussi : refus(ecrite.defaut);
 }
 
 /// Why a set of lines can't be printed; empty when it can.

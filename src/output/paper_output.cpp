@@ -96,21 +96,22 @@ void SortiePapier::imprime(const Impression &impression, int copies, const Progr
 {
     const QString fichier = std::exchange(m_fichier, {});
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const bool reussie = versFichier()
-                             ? ecritPdf(fichier, impression, police(), m_session.host.now(), progres)
-                             : imprimePapier(impression, copies, progres);
+    IssuePdf ecrite;
+    if (versFichier())
+        ecrite = ecritPdf(fichier, impression, police(), m_session.host.now(), progres);
+    else
+        imprimePapier(impression, copies, progres);
     QApplication::restoreOverrideCursor();
     // The frame goes on past a failed step; a file that the user was promised is all that it tells about.
-    if (!reussie && versFichier())
-        m_session.host.message(QStringLiteral("Le fichier %1 ne peut pas être écrit.").arg(fichier), titre);
+    if (!ecrite) m_session.host.message(ecrite.defaut, titre);
 }
 
-bool SortiePapier::imprimePapier(const Impression &impression, int copies, const Progres &progres)
+void SortiePapier::imprimePapier(const Impression &impression, int copies, const Progres &progres)
 {
     m_imprimante->setDocName(impression.document);
     m_imprimante->setCopyCount(copies);
     m_imprimante->setPaperSource(QPrinter::Upper);
-    return lanceImpression(*m_imprimante, impression, police(), m_session.host.now(), progres);
+    static_cast<void>(lanceImpression(*m_imprimante, impression, police(), m_session.host.now(), progres));
 }
 
 void SortiePapier::apercu(const Impression &impression)

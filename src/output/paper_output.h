@@ -42,7 +42,7 @@ public:
 
 private:
     [[nodiscard]] bool versFichier() const;
-    [[nodiscard]] bool imprimePapier(const Impression &impression, int copies, const Progres &progres);
+    void imprimePapier(const Impression &impression, int copies, const Progres &progres);
 
     Session &m_session;
     QWidget *m_fenetre;

@@ -25,8 +25,14 @@ struct Impression {
                                    const QString &police, const QDateTime &moment,
                                    const Progres &progres = {});
 
+/// How a PDF file came out: why it didn't, in a sentence that is empty when it did.
+struct IssuePdf {
+    QString defaut;
+    explicit operator bool() const { return defaut.isEmpty(); }
+};
+
 /// The same into a PDF file, which is replaced as a whole or, on a failure, not at all.
-[[nodiscard]] bool ecritPdf(const QString &fichier, const Impression &impression, const QString &police,
-                            const QDateTime &moment, const Progres &progres = {});
+[[nodiscard]] IssuePdf ecritPdf(const QString &fichier, const Impression &impression, const QString &police,
+                                const QDateTime &moment, const Progres &progres = {});
 
 } // namespace velmora

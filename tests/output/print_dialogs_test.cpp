@@ -149,7 +149,7 @@ TEST_F(PrintDialogs, NothingIsPrintedWhenTheFileIsNotNamedAndAFileThatFailsIsTol
     QTest::mouseClick(&button(form, "Command1"), Qt::LeftButton);
     EXPECT_EQ(label(form, "Label5"), "Fichier PDF sur un nom à choisir");
     ASSERT_TRUE(session.base.engine.execute("DROP TABLE sitper").ok());
-    station.host.expectMessage(QStringLiteral("Le fichier %1 ne peut pas être écrit.").arg(file));
+    station.host.expectMessage(QStringLiteral("Le planning n'a pas pu être lu en entier."));
     print(form);
     EXPECT_FALSE(QFile::exists(file));
 }
