@@ -14,14 +14,6 @@ SuiteJours joursControles(Session &session, const Ligne &ligne, const QDate &deb
     return jours;
 }
 
-Controle controlligne(Session &session, const Ligne &ligne, const QDate &debut, const QDate &fin)
-{
-    if (!aControles(ligne)) return {};
-    const Controle controle = controlligne(ligne, joursControles(session, ligne, debut, fin), debut, fin);
-    jeuaudate(session, session.host.today());
-    return controle;
-}
-
 bool rapportcontrole(Session &session, const Ligne &ligne, const QDate &debut, const QDate &fin)
 {
     if (!aControles(ligne)) return false;

@@ -11,10 +11,6 @@ namespace velmora
 [[nodiscard]] SuiteJours joursControles(Session &session, const Ligne &ligne, const QDate &debut,
                                         const QDate &fin);
 
-/// The verdict of a line between two dates. `parcg` is left on the set in force today.
-[[nodiscard]] Controle controlligne(Session &session, const Ligne &ligne, const QDate &debut,
-                                    const QDate &fin);
-
 /// Shows the report of a line between two dates, if there is something to report. True when the line has
 /// controls. `parcg` is left on the set in force today.
 bool rapportcontrole(Session &session, const Ligne &ligne, const QDate &debut, const QDate &fin);

@@ -1,7 +1,6 @@
 #include "calendar/fparcg.h"
 
 #include "calendar/calendar_rows.h"
-#include "support/faulty_engine.h"
 #include "support/keyboard.h"
 #include "support/modal.h"
 
@@ -38,7 +37,7 @@ protected:
     }
     void select(int row) { control<QListWidget>(*form, "List1").setCurrentRow(row); }
     bool enabled(const char *button) { return control<QPushButton>(*form, button).isEnabled(); }
-    /// Goes on to OK by Enter; the holidays that follow close at once.
+    /// Presses OK; the holidays that follow close at once.
     static void confirm(
         QWidget &entry, const std::function<void(QWidget &)> &act = [](QWidget &) {})
     {

@@ -139,7 +139,9 @@ TEST_P(RandomRules, ReadTheSameDaysFromTheTablesForBothTheMonthAndAQuestion)
     while (lines.next()) {
         const Ligne &line = lines.row();
         const auto expected = naive::verdict(line, days[line.nump], periode.debgrille, periode.fingrille);
-        const Controle asked = controlligne(session, line, periode.debgrille, periode.fingrille);
+        const Controle asked =
+            controlligne(line, joursControles(session, line, periode.debgrille, periode.fingrille),
+                         periode.debgrille, periode.fingrille);
         EXPECT_EQ(asked.echec, expected.failure) << line.nump;
         EXPECT_EQ(asked.presents, expected.controls);
         if (!dansPeriode(line, periode)) continue;
