@@ -8,8 +8,11 @@ build_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     breeze-icon-theme fonts-dejavu-core qt6-translations-l10n
 )
-# What the tests drive the program with, read its pages with and compare its calendar with.
-test_packages=(xvfb xdotool poppler-utils imagemagick unzip python3 python3-dateutil python3-holidays)
+# What the tests drive the program with, read its pages with, compare its calendar with and fuzz it with.
+test_packages=(
+    xvfb xdotool poppler-utils imagemagick unzip python3 python3-dateutil python3-holidays
+    clang libclang-rt-dev
+)
 
 # Prints the packages among the arguments that are not installed.
 missing_packages() {

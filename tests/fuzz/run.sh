@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Builds the fuzz targets with clang and lets libFuzzer drive each of them.
+# Builds the fuzz targets with clang and lets libFuzzer drive each of them, from the samples and from what
+# earlier runs found.
 # Usage: run.sh SECONDS [TARGET...]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
@@ -19,5 +20,6 @@ for target in "${targets[@]}"; do
     mkdir -p "$corpus"
     echo "== $target"
     build/fuzz/tests/fuzz/fuzz_"$target" -max_total_time="$seconds" -timeout=25 -print_final_stats=1 \
-        -verbosity=0 -artifact_prefix="$corpus-" "$corpus" 2>&1 | grep -E 'number_of_executed|ERROR|broken|SUMMARY'
+        -verbosity=0 -artifact_prefix="$corpus-" "$corpus" tests/fuzz/samples 2>&1 |
+        grep -E 'number_of_executed|ERROR|broken|SUMMARY'
 done
