@@ -61,7 +61,7 @@ const Killed killed[] = {
      {"supprimer", "1", "02/06/2026", "25/06/2026", "--non"}},
     {{"annuler", "--oui"}, true},
     {{"refaire", "--oui"}},
-    {{"absence", "1", "03/06/2026", "20/06/2026", "CP"}},
+    {{"absence", "1", "03/06/2026", "20/06/2026", "CA"}},
     {{"ligne", "nouvelle", "LÉA", "01/01/2026"}},
     {{"ligne", "fermer", "1", "05/06/2026", "--oui"}},
     {{"ligne", "supprimer", "1", "--oui"}},
@@ -69,8 +69,8 @@ const Killed killed[] = {
     {{"ligne", "renommer", "1", "LÉON"}},
     {{"ligne", "controles", "1", "--jour", "9h00"}},
     {{"dossier", "ajouter", "Nouveau", "1", "2", "3"}},
-    {{"dossier", "modifier", "Autre", "1", "2"}},
-    {{"dossier", "supprimer", "Autre", "--oui"}},
+    {{"dossier", "modifier", "AUTRE", "1", "2"}},
+    {{"dossier", "supprimer", "AUTRE", "--oui"}},
     {{"code", "ajouter", "ZZ", "Essai"}},
     {{"code", "modifier", "YY", "Autre"}},
     {{"code", "supprimer", "YY", "--oui"}},
@@ -89,7 +89,7 @@ const Killed killed[] = {
 /// What some of them change.
 const QStringList prepared[] = {
     {"ligne", "fermer", "5", "05/06/2026", "--oui"},
-    {"dossier", "ajouter", "Autre", "4"},
+    {"dossier", "ajouter", "AUTRE", "4"},
     {"code", "ajouter", "YY", "Libre"},
     {"parametres", "ajouter", "01/07/2026", "9", "Annexe"},
     {"feries", "ajouter", "16/07/2026", "Pont"},
