@@ -70,7 +70,8 @@ QString nonNul(const QString &texte)
     return texte.isNull() ? QStringLiteral("") : texte;
 }
 
-/// Without colours of its own a code keeps those that it had, unread.
+/// Without colours of its own a code keeps those that it had, unread. `classe` and `larr` are the file's:
+/// nothing reads them.
 void copie(const FicheCode &fiche, CodeAbsence &code)
 {
     if (fiche.nouveau) code.codabs = codeAligne(fiche.codabs);
@@ -103,7 +104,7 @@ Status ecrit(Session &session, const FicheCode &fiche)
     if (!status.ok()) return status;
     copie(fiche, codabs.values());
     status = codabs.update();
-    return status.ok() && !codabs.goTo(codabs.lastModified()) ? codabs.status() : status;
+    return status.ok() && !codabs.goToModified() ? codabs.status() : status;
 }
 
 /// Walks all absences: they have no index by code, and store a single letter without its blank.
@@ -179,9 +180,15 @@ FicheCode ficheDe(const CodeAbsence &code)
 bool enregistreCode(Session &session, const FicheCode &fiche)
 {
     QString refus;
+    bool ecrite = false;
     const bool fait = enLot(session, [&] {
-        refus = refusFiche(session, fiche);
-        return refus.isEmpty() ? ecrit(session, fiche) : Status{};
+        // A commit that the disk reported as failed may stand all the same: the next try meets its own row.
+        FicheCode essai = fiche;
+        essai.nouveau = fiche.nouveau && !(ecrite && cherchecode(session, fiche.codabs));
+        refus = refusFiche(session, essai);
+        const Status status = refus.isEmpty() ? ecrit(session, essai) : Status{};
+        ecrite = ecrite || (status.ok() && refus.isEmpty());
+        return status;
     });
     if (!refus.isEmpty()) session.host.message(refus, titre);
     return fait && refus.isEmpty();

@@ -81,13 +81,6 @@ Status place(Session &session, const AbsenceSaisie &nouvelle)
     return status;
 }
 
-int ouvreOperation(Session &session, const JoursAbsence &jours)
-{
-    return ecritop(session, QStringLiteral("A"),
-                   QStringLiteral("absence saisie pour ") + session.absnom +
-                       periodetexte(jours.debut, jours.fin));
-}
-
 } // namespace
 
 bool saisieabs(Session &session, const ChampsAbsence &champs)
@@ -102,8 +95,9 @@ bool saisieabs(Session &session, const ChampsAbsence &champs)
     const AbsenceSaisie nouvelle{session.absligne, 0, codeChoisi(champs.code), jours->debut, jours->fin};
     int operation = 0;
     session.dlgvalide = enLot(session, [&] {
-        // A second try goes on with the operation, unless the failure took that back too.
-        if (operation == 0 || session.opcour != operation) operation = ouvreOperation(session, *jours);
+        ouvreop(session, operation, QStringLiteral("A"),
+                QStringLiteral("absence saisie pour ") + session.absnom +
+                    periodetexte(jours->debut, jours->fin));
         return place(session, nouvelle);
     });
     return session.dlgvalide;

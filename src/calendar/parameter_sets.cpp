@@ -13,20 +13,28 @@ using store::Status;
 namespace
 {
 
-Status ecritjeu(Session &session, const QDate &dat, const SaisieJeu &saisie)
+/// `present` tells that `parcg` stands on the set of the date.
+Status ecritjeu(Session &session, bool present, const QDate &dat, const SaisieJeu &saisie)
 {
     auto &parcg = session.base.parcg;
-    if (!session.modeajout && !placejeu(session, dat)) return {Status::Code::NoRow, {}};
-    const Status status = session.modeajout ? ajoutgarde(session, parcg) : editgarde(session, parcg);
+    if (!present && !session.modeajout) return {Status::Code::NoRow, {}};
+    const Status status = present ? editgarde(session, parcg) : ajoutgarde(session, parcg);
     if (!status.ok()) return status;
     parcg.values() = {dat, saisie.region, 0, saisie.nometab};
     return parcg.update();
 }
 
+/// A set that is gone by now leaves nothing to do.
 Status supprime(Session &session, const QDate &date)
 {
-    if (!placejeu(session, date)) return {Status::Code::NoRow, {}};
-    return supprgarde(session, session.base.parcg);
+    auto &parcg = session.base.parcg;
+    return placejeu(session, date) ? supprgarde(session, parcg) : parcg.status();
+}
+
+bool refuseDate(Session &session, const QString &dat)
+{
+    session.host.message(QStringLiteral("Date incorrecte: jeu de paramères déjà existant au ") + dat, titre);
+    return false;
 }
 
 } // namespace
@@ -83,9 +91,7 @@ SaisieJeu saisieDepart(Session &session)
 
 bool contg(Session &session, const QString &dat)
 {
-    if (!session.modeajout || !placejeu(session, Foncgen::ctod(dat))) return true;
-    session.host.message(QStringLiteral("Date incorrecte: jeu de paramères déjà existant au ") + dat, titre);
-    return false;
+    return !session.modeajout || !placejeu(session, Foncgen::ctod(dat)) || refuseDate(session, dat);
 }
 
 bool enregistrejeu(Session &session, const SaisieJeu &saisie)
@@ -97,7 +103,21 @@ bool enregistrejeu(Session &session, const SaisieJeu &saisie)
     }
     if (!contg(session, saisie.dat)) return false;
     session.nometab = saisie.nometab;
-    return enLot(session, [&] { return ecritjeu(session, dat, saisie); }) && placejeu(session, dat);
+    bool ecrit = false;
+    bool pris = false;
+    const bool fait = enLot(session, [&] {
+        const bool present = placejeu(session, dat);
+        if (!present && !session.base.parcg.status().ok()) return session.base.parcg.status();
+        // Another workstation can have added a set of the date since it was checked. A commit that the disk
+        // reported as failed may stand all the same: the next try meets its own row.
+        pris = session.modeajout && present && !ecrit;
+        if (pris) return Status{};
+        const Status status = ecritjeu(session, present, dat, saisie);
+        ecrit = ecrit || status.ok();
+        return status;
+    });
+    if (pris) return refuseDate(session, saisie.dat);
+    return fait && placejeu(session, dat);
 }
 
 DemandeFeries demandeDuJeu(Session &session)

@@ -48,7 +48,7 @@ int listeParametres(Session &session)
         const JeuParam &jeu = jeux.row();
         imprimeChamps({Foncgen::dtoc(jeu.dat), QString::number(jeu.fdomtom), jeu.nometab});
     }
-    return reussi;
+    return jeux.status().ok() ? reussi : refus(QStringLiteral("Les paramètres ne peuvent pas être lus."));
 }
 
 int commandeParametresListe(const Appel &appel)
@@ -110,7 +110,7 @@ int listeFeries(Session &session, std::optional<int> annee)
         const JourFerie &jour = jours.row();
         imprimeChamps({Foncgen::dtoc(jour.datedeb), jour.lib, QString::number(jour.act)});
     }
-    return reussi;
+    return jours.status().ok() ? reussi : refus(QStringLiteral("Les jours fériés ne peuvent pas être lus."));
 }
 
 int commandeFeries(const Appel &appel)

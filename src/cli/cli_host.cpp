@@ -13,22 +13,44 @@ namespace velmora::cli
 namespace
 {
 
-void ecrit(std::FILE *flux, const QString &ligne)
+void ecrit(std::FILE *flux, const QByteArray &utf8)
 {
-    const QByteArray utf8 = ligne.toUtf8() + '\n';
     std::fwrite(utf8.constData(), 1, static_cast<std::size_t>(utf8.size()), flux);
+}
+
+/// What is kept of the standard output, while it is.
+std::optional<QByteArray> retenu;
+
+void rendRetenu()
+{
+    if (retenu) ecrit(stdout, *retenu);
+    retenu.reset();
 }
 
 } // namespace
 
 void imprime(const QString &ligne)
 {
-    ecrit(stdout, ligne);
+    const QByteArray utf8 = ligne.toUtf8() + '\n';
+    if (retenu)
+        retenu->append(utf8);
+    else
+        ecrit(stdout, utf8);
 }
 
 void imprimeErreur(const QString &ligne)
 {
-    ecrit(stderr, ligne);
+    ecrit(stderr, ligne.toUtf8() + '\n');
+}
+
+SortieRetenue::SortieRetenue()
+{
+    retenu.emplace();
+}
+
+SortieRetenue::~SortieRetenue()
+{
+    rendRetenu();
 }
 
 CliHost::CliHost(const std::optional<QDate> &aujourdhui, const std::optional<bool> &reponse)
@@ -88,6 +110,7 @@ bool CliHost::open(const QString &target)
 void CliHost::endProcess()
 {
     if (!m_dit && m_siMuette) imprimeErreur(m_siMuette());
+    rendRetenu();
     std::fflush(nullptr);
     // Nothing is saved or closed on the way out: what is committed stands, the rest is dropped.
     std::_Exit(EXIT_FAILURE);

@@ -47,4 +47,15 @@ private:
 void imprime(const QString &ligne);
 void imprimeErreur(const QString &ligne);
 
+/// Keeps what is printed until its end: a reader of the standard output that stops, such as a pager, must not
+/// stop a command that holds a lock on the shared file.
+class SortieRetenue
+{
+public:
+    SortieRetenue();
+    ~SortieRetenue();
+    SortieRetenue(const SortieRetenue &) = delete;
+    SortieRetenue &operator=(const SortieRetenue &) = delete;
+};
+
 } // namespace velmora::cli

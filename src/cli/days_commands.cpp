@@ -43,9 +43,9 @@ int deplace(Session &session, const Appel &appel, bool coupe)
     if (!impossible.isEmpty()) return refus(impossible);
     Pressepapiers presse;
     presse.clipcoupe = coupe;
-    retientJours(session, presse, source.ligne, source.debut, source.fin);
-    colleJours(session, presse, cible.ligne, cible.debut);
-    return reussi;
+    const Retenue retenue = retientJours(session, presse, source.ligne, source.debut, source.fin);
+    if (retenue == Retenue::Abandonnee) return refuse;
+    return colleJours(session, presse, cible.ligne, cible.debut) ? reussi : refuse;
 }
 
 int supprime(Session &session, const Appel &appel)
@@ -54,7 +54,8 @@ int supprime(Session &session, const Appel &appel)
     if (!jours.refus.isEmpty()) return refus(jours.refus);
     switch (supprimeJours(session, jours.ligne, jours.debut, jours.fin)) {
     case Suppression::SansObjet: return refus(QStringLiteral("Il n'y a ni absence ni horaire à supprimer."));
-    case Suppression::Refusee: return refuse;
+    case Suppression::Refusee:
+    case Suppression::Abandonnee: return refuse;
     case Suppression::Faite: break;
     }
     return reussi;

@@ -30,6 +30,7 @@ QString causeArret(const Session &session)
 
 int surSession(const Appel &appel, const std::function<int(Session &)> &travail)
 {
+    const SortieRetenue retenue; // outlives the session
     Velmoral velmoral(appel.host, Velmoral::Demarrage::ParLanceur, [](Session &) {});
     appel.host.siMuette([&velmoral] { return causeArret(velmoral.session()); });
     velmoral.ini(appel.poste.pseudo, appel.poste.journal, appel.poste.base);

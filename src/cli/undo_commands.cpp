@@ -9,18 +9,21 @@ namespace velmora::cli
 namespace
 {
 
+int rend(bool fait)
+{
+    return fait ? reussi : refuse;
+}
+
 int annule(Session &session)
 {
     if (!operationAAnnuler(session)) return refus(QStringLiteral("Il n'y a aucune opération à annuler."));
-    annulop(session);
-    return reussi;
+    return rend(annulop(session));
 }
 
 int refait(Session &session)
 {
     if (!operationARefaire(session)) return refus(QStringLiteral("Il n'y a aucune opération à refaire."));
-    refaitop(session);
-    return reussi;
+    return rend(refaitop(session));
 }
 
 } // namespace

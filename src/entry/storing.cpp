@@ -31,12 +31,6 @@ Status ecritJour(Session &session, const JourSit &jour)
     return status;
 }
 
-int ouvreOperation(Session &session, const JourneeSaisie &journee)
-{
-    return ecritop(session, QStringLiteral("S"),
-                   QStringLiteral("nouvel horaire: ") + journee.nom + periodetexte(journee.dd, journee.df));
-}
-
 Status ecritJours(Session &session, const JourneeSaisie &journee, JourSit jour)
 {
     jour.nump = journee.nump;
@@ -54,8 +48,8 @@ bool ecrihor(Session &session, const JourneeSaisie &journee, const JourSit &hora
 {
     int operation = 0;
     const bool ecrit = enLot(session, [&] {
-        // A second try goes on with the operation, unless the failure took that back too.
-        if (operation == 0 || session.opcour != operation) operation = ouvreOperation(session, journee);
+        ouvreop(session, operation, QStringLiteral("S"),
+                QStringLiteral("nouvel horaire: ") + journee.nom + periodetexte(journee.dd, journee.df));
         return ecritJours(session, journee, horaire);
     });
     session.dlgvalide = ecrit;

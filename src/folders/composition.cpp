@@ -40,7 +40,7 @@ CompositionDossier::CompositionDossier(Session &session) : m_session(session)
     m_nom = m_designation.trimmed();
     auto &groupe = session.base.groupe;
     const bool presente =
-        placedossier(session, m_designation) || enLot(session, [this] { return ajouteTete(m_designation); });
+        placedossier(session, m_designation) || enLot(session, [this] { return assureTete(m_designation); });
     if (presente) m_tete = groupe.bookmark();
 }
 
@@ -58,15 +58,32 @@ Status CompositionDossier::ajouteTete(const QString &nom)
     return groupe.status();
 }
 
+/// Makes the head row current, and adds it when there is none.
+Status CompositionDossier::assureTete(const QString &nom)
+{
+    if (placedossier(m_session, nom)) return {};
+    const Status status = m_session.base.groupe.status();
+    return status.ok() ? ajouteTete(nom) : status;
+}
+
 bool CompositionDossier::remplit()
 {
+    auto &groupe = m_session.base.groupe;
+    Status lecture;
     m_lignes.clear();
     auto lignes = m_session.base.ligmois.range("ligmois02", {}, {});
     while (lignes.next()) {
         const Ligne &ligne = lignes.row();
-        const bool membre = !m_session.modeajout && placemembre(m_session, m_nom, ligne.nump) &&
-                            m_session.base.groupe.row().sel;
+        const bool range = !m_session.modeajout && placemembre(m_session, m_nom, ligne.nump);
+        const bool membre = range && groupe.row().sel;
+        if (!m_session.modeajout && !range && lecture.ok()) lecture = groupe.status();
         m_lignes.push_back({ligne.nump, ligne.nom + QLatin1Char(' ') + Foncgen::dtoc(ligne.datedeb), membre});
+    }
+    if (lecture.ok()) lecture = lignes.status();
+    // A line that couldn't be looked up would show without its tick, and the save would take it out.
+    if (!lecture.ok()) {
+        ditEchecDisque(m_session);
+        return false;
     }
     if (!m_lignes.empty()) return true;
     m_session.host.message(QStringLiteral("vous devez saisir les lignes préalablement"), titreDossier);
@@ -107,14 +124,9 @@ Status CompositionDossier::ecrit(const QString &texte)
 {
     // The head row keeps the blanks around the name and the member rows don't: this is wanted.
     if (m_session.modeajout) m_nom = texte.trimmed();
-    const QString &tete = m_session.modeajout ? texte : m_designation;
-    Status status;
     // Another workstation can have deleted the folder since the dialog opened: lines without a head row would
     // be no folder.
-    if (!placedossier(m_session, tete)) {
-        status = m_session.base.groupe.status();
-        if (status.ok()) status = ajouteTete(tete);
-    }
+    Status status = assureTete(m_session.modeajout ? texte : m_designation);
     for (const LigneCochable &ligne : m_lignes)
         if (status.ok()) status = ecritLigne(ligne);
     return status;

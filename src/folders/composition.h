@@ -41,6 +41,7 @@ public:
 
 private:
     [[nodiscard]] store::Status ajouteTete(const QString &groupe);
+    [[nodiscard]] store::Status assureTete(const QString &nom);
     [[nodiscard]] store::Status ecrit(const QString &texte);
     [[nodiscard]] store::Status ecritLigne(const LigneCochable &ligne);
     [[nodiscard]] store::Status ecritMembre(int nump, bool membre);

@@ -25,15 +25,15 @@ void pauseEvenements()
         QCoreApplication::processEvents();
 }
 
-void remplitCase(Session &session, const QString &ficop, const QString &libop)
+Status remplitCase(Session &session, const QString &ficop, const QString &libop)
 {
-    modifieOperation(session, [&](Operation &operation) {
+    return modifieOperation(session, [&](Operation &operation) {
         operation.valop = true;
         operation.nivop = 0;
         operation.ficop = ficop;
         operation.libop = libop;
         operation.ordop = 1;
-    }).ignore();
+    });
 }
 
 int remetAnneau(Session &session)
@@ -52,42 +52,43 @@ int remetAnneau(Session &session)
 /// The head row of a new operation. The test is on more than one undone operation, not on one or more, and
 /// the former count of free levels is then dropped: it may fall below the count of free slots. Both are
 /// wanted; no operation is lost by it.
-void avanceTete(Session &session, int annulees)
+Status avanceTete(Session &session, int annulees)
 {
-    modifieOperation(session, [annulees](Operation &tete) {
+    return modifieOperation(session, [annulees](Operation &tete) {
         tete.nivop = annulees > 1 ? annulees - 1 : std::max(tete.nivop - 1, 0);
         tete.ordop = 0;
-    }).ignore();
+    });
 }
 
-/// Walks the slots in their order, ages those in force, renumbers the free ones and takes one. Returns the
-/// taken slot's `numop`.
-int prendCase(Session &session, int annulees, const QString &ficop, const QString &libop)
+/// Walks the slots in their order, ages those in force, renumbers the free ones and takes one, whose `numop`
+/// is left in `prise`. A step that fails is left undone and the walk goes on; returns the first failure.
+Status prendCase(Session &session, int annulees, const QString &ficop, const QString &libop, int &prise)
 {
     auto &logop = session.journal.logop;
     const int vieillit = 1 - annulees;
     int libre = annulees - 1;
     bool cherche = true;
-    int prise = 0;
+    Status echec;
     while (logop.next()) {
         const Operation operation = logop.row();
+        Status pas;
         if (cherche && !operation.valop) {
             cherche = false;
             prise = operation.numop;
-            remplitCase(session, ficop, libop);
+            pas = remplitCase(session, ficop, libop);
         } else if (operation.valop && operation.ordop + vieillit > session.nblog) {
             prise = operation.numop;
-            remplitCase(session, ficop, libop);
+            pas = remplitCase(session, ficop, libop);
         } else if (operation.valop) {
-            modifieOperation(session, [vieillit](Operation &suivie) { suivie.ordop += vieillit; }).ignore();
+            pas = modifieOperation(session, [vieillit](Operation &suivie) { suivie.ordop += vieillit; });
         } else {
-            modifieOperation(session, [&](Operation &suivie) {
-                suivie.ordop = session.nblog - libre + 1;
-            }).ignore();
+            pas = modifieOperation(session,
+                                   [&](Operation &suivie) { suivie.ordop = session.nblog - libre + 1; });
             --libre;
         }
+        if (echec.ok()) echec = pas;
     }
-    return prise;
+    return echec.ok() ? logop.status() : echec;
 }
 
 /// Writes an image under the next rank of the operation being recorded. `copie` copies the row in.
@@ -95,7 +96,7 @@ template <class Image, class Copie>
 void ajouteImage(Session &session, store::Table<Image> &images, const QString &avap, const QString &foncop,
                  Copie &&copie)
 {
-    if (session.opcour == 0) return;
+    if (session.opcour == 0 || (session.batch && !session.batch->enregistre())) return;
     ++session.nivcour;
     images.eraseRun({session.opcour, session.nivcour}).ignore();
     if (!ajoutgarde(session, images).ok()) return;
@@ -122,28 +123,42 @@ void imageabs(Session &session, const QString &avap, const QString &foncop)
 
 } // namespace
 
+void ouvreop(Session &session, int &operation, const QString &ficop, const QString &libop)
+{
+    if (operation != 0 && session.opcour == operation) return;
+    operation = session.opcour = ecritop(session, ficop, libop);
+}
+
 int ecritop(Session &session, const QString &ficop, const QString &libop)
 {
     if (ficop == ficopRemise) return remetAnneau(session);
+    if (session.batch && !session.batch->enregistre()) return session.opcour = 0;
     auto &logop = session.journal.logop;
     session.peutannul = true;
     int prise = 0;
+    Status echec;
     if (logop.first()) {
         const int annulees = logop.row().ordop;
-        avanceTete(session, annulees);
-        prise = prendCase(session, annulees, ficop, libop);
+        echec = avanceTete(session, annulees);
+        const Status marche = prendCase(session, annulees, ficop, libop, prise);
+        if (echec.ok()) echec = marche;
     }
-    purgeop(session, prise);
+    const Status purge = purgeop(session, prise);
+    if (session.batch && !(echec.ok() && purge.ok())) {
+        session.batch->renonceEnregistrement();
+        return session.opcour = 0;
+    }
     if (!session.collage) videsitco(session);
     session.nivcour = 0;
     return session.opcour = prise;
 }
 
-void purgeop(Session &session, int numop)
+Status purgeop(Session &session, int numop)
 {
     // No other session has the journal: no row of it can be held.
-    session.journal.sitlog.eraseRun({numop}).ignore();
-    session.journal.logabs.eraseRun({numop}).ignore();
+    const Status heures = session.journal.sitlog.eraseRun({numop});
+    const Status absences = session.journal.logabs.eraseRun({numop});
+    return heures.ok() ? absences : heures;
 }
 
 Status editsit(Session &session)

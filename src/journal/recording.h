@@ -12,11 +12,17 @@ inline const QString ficopRemise = QStringLiteral("?");
 /// or undone slot is taken, or the oldest of a full ring; its old images go. `ficop` is "S" for a command
 /// that changes only `sitper`, "A" for one that may change `absences` too; "?" only resets the head row and
 /// returns 0. The redo flag stays as it was, on purpose: redo may show as possible after a new operation and
-/// then does nothing.
+/// then does nothing. Nothing closes an operation: whatever changes until the next one joins it, which is
+/// wanted. Returns 0, and the ring is as it was, when the journal can't take the whole of a batch's operation:
+/// the planning changes all the same.
 int ecritop(Session &session, const QString &ficop, const QString &libop);
 
-/// Empties a slot's images. One that can't be deleted stays, and the rest goes.
-void purgeop(Session &session, int numop);
+/// Opens the operation of a command that may be tried again: `operation` is 0 at the first try. A later one
+/// goes on with it, unless the failure took that back too.
+void ouvreop(Session &session, int &operation, const QString &ficop, const QString &libop);
+
+/// Empties a slot's images.
+[[nodiscard]] store::Status purgeop(Session &session, int numop);
 
 // Guarded changes of `sitper`, recorded as row images. Each returns the failure of the planning's own row;
 // a failure to record an image is passed over.

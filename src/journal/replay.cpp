@@ -108,27 +108,27 @@ Status joueOperation(Session &session, const Sens &sens, int age)
     return status;
 }
 
-void rejoue(Session &session, const Sens &sens)
+bool rejoue(Session &session, const Sens &sens)
 {
-    if (!(session.*sens.possible)) return;
+    if (!(session.*sens.possible)) return true;
     videSpans(session.rejeu);
     const auto operation = operationVisee(session, sens);
-    if (!operation || !confirme(session, sens, *operation)) return;
+    if (!operation || !confirme(session, sens, *operation)) return true;
     attendTables(session);
-    enLot(
+    return enLot(
         session, [&] { return joueOperation(session, sens, operation->ordop); }, sens.lot);
 }
 
 } // namespace
 
-void annulop(Session &session)
+bool annulop(Session &session)
 {
-    rejoue(session, annulation);
+    return rejoue(session, annulation);
 }
 
-void refaitop(Session &session)
+bool refaitop(Session &session)
 {
-    rejoue(session, reprise);
+    return rejoue(session, reprise);
 }
 
 std::optional<Operation> operationAAnnuler(Session &session)

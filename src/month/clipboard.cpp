@@ -148,12 +148,12 @@ Status colleJour(Session &session, int nump, const QDate &dat, const JourSit &so
     return majsit(session);
 }
 
-Status colle(Session &session, const Jours &jours, const Ligne &ligne, const QDate &debut)
+Status colle(Session &session, const Jours &jours, const Ligne &ligne, const QDate &debut, int &operation)
 {
     const QDate fin = debut.addDays(static_cast<qint64>(jours.size()) - 1);
-    session.opcour = ecritop(session, QStringLiteral("S"),
-                             QStringLiteral(" - collé: horaires pour ") + ligne.nom + QLatin1Char(' ') +
-                                 periodetexte(debut, fin));
+    ouvreop(session, operation, QStringLiteral("S"),
+            QStringLiteral(" - collé: horaires pour ") + ligne.nom + QLatin1Char(' ') +
+                periodetexte(debut, fin));
     if (ligne.nump == 0) return {};
     QDate dat = debut;
     for (const std::optional<JourSit> &jour : jours) {
@@ -175,25 +175,35 @@ void Pressepapiers::vide()
     clipcoupe = false;
 }
 
-bool retientJours(Session &session, Pressepapiers &presse, const Ligne &ligne, const QDate &debut,
-                  const QDate &fin)
+Retenue retientJours(Session &session, Pressepapiers &presse, const Ligne &ligne, const QDate &debut,
+                     const QDate &fin)
 {
     Jours jours(static_cast<std::size_t>(debut.daysTo(fin) + 1));
     // Days that the journal couldn't take would be held nowhere, and those of a cut lost: whole or not at
     // all.
-    enLot(
+    const bool fait = enLot(
         session, [&] { return retient(session, presse, ligne, debut, fin, jours); }, Batch::Kind::Redo);
+    if (!fait) {
+        presse.vide();
+        return Retenue::Abandonnee;
+    }
     presse.infobulle = apercu(jours, session.totcent);
     presse.clipcoupe = false;
-    return std::any_of(jours.begin(), jours.end(), [](const auto &jour) { return jour.has_value(); });
+    const bool heures =
+        std::any_of(jours.begin(), jours.end(), [](const auto &jour) { return jour.has_value(); });
+    return heures ? Retenue::Faite : Retenue::SansHeures;
 }
 
-void colleJours(Session &session, Pressepapiers &presse, const Ligne &ligne, const QDate &debut)
+bool colleJours(Session &session, Pressepapiers &presse, const Ligne &ligne, const QDate &debut)
 {
     const auto jours = presse.tient(session) ? joursTenus(session, presse) : std::nullopt;
-    if (!jours) return presse.vide();
+    if (!jours) {
+        presse.vide();
+        return false;
+    }
     const Collage collage(session);
-    enLot(session, [&] { return colle(session, *jours, ligne, debut); });
+    int operation = 0;
+    return enLot(session, [&] { return colle(session, *jours, ligne, debut, operation); });
 }
 
 void clipcopie(Planning &planning, const std::function<void()> &montreApercu)
@@ -206,9 +216,10 @@ void clipcopie(Planning &planning, const std::function<void()> &montreApercu)
         return;
     }
     presse.clipligne = cible->rangee;
-    const bool tenus = retientJours(planning.session, presse, cible->ligne, cible->debut, cible->fin);
+    const Retenue retenue = retientJours(planning.session, presse, cible->ligne, cible->debut, cible->fin);
+    if (retenue == Retenue::Abandonnee) return;
     if (montreApercu) montreApercu();
-    if (!tenus)
+    if (retenue == Retenue::SansHeures)
         planning.session.host.message(pasDHoraire(), titre);
     else if (coupe)
         majligne(planning, cible->ligne.nump, presse.clipligne);

@@ -30,18 +30,26 @@ struct Pressepapiers {
     void vide();
 };
 
+/// What a copy or a cut found.
+enum class Retenue {
+    Abandonnee, ///< the store failed for good, and has said it: nothing is held
+    SansHeures, ///< no day had hours: the days are held all the same
+    Faite
+};
+
 /// Holds the days of a line from one date to another, both included; with `clipcoupe` it also takes their
 /// rows out of the planning, as one operation of the journal. What was held before goes. One transaction over
 /// both files; a failure asks whether to try again, and a second try still holds what the first one took out.
-/// Ends with `clipcoupe` false. False when no day had hours: the days are held all the same.
-bool retientJours(Session &session, Pressepapiers &presse, const Ligne &ligne, const QDate &debut,
+/// Ends with `clipcoupe` false.
+Retenue retientJours(Session &session, Pressepapiers &presse, const Ligne &ligne, const QDate &debut,
                   const QDate &fin);
 
 /// Writes the days held on a line from a date on, in calendar order, as one operation and one transaction.
 /// Days outside the line's dates are passed over and the later ones keep their place; a day held without
 /// hours empties its date; absences aren't looked at. Any other operation of the journal since the cut or
-/// copy has ended what was held: then nothing is written and the clipboard is empty.
-void colleJours(Session &session, Pressepapiers &presse, const Ligne &ligne, const QDate &debut);
+/// copy has ended what was held: then nothing is written and the clipboard is empty. False then, and when the
+/// paste was given up.
+bool colleJours(Session &session, Pressepapiers &presse, const Ligne &ligne, const QDate &debut);
 
 /// Holds the selection or the current day, or cuts it when `clipcoupe` is set. `montreApercu` shows the new
 /// tooltip, before anything is said.

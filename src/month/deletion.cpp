@@ -27,17 +27,31 @@ void ouvreOperation(Session &session, const QString &libop)
     });
 }
 
+/// Whether the current row is the absence that the user was shown: the store gives the place of a deleted one
+/// to the next, and another workstation may have changed it.
+bool resteLaMeme(Session &session, const AbsenceSaisie &montree)
+{
+    const AbsenceSaisie &absence = session.base.absences.row();
+    return absence.nump == montree.nump && absence.codabs == montree.codabs &&
+           absence.datedeb == montree.datedeb && absence.datefin == montree.datefin;
+}
+
 /// An absence that is gone by now leaves nothing to do, unless an earlier try has deleted it.
 Status retireAbsence(Session &session, const store::Bookmark<AbsenceSaisie> &place, bool &commencee)
 {
     auto &absences = session.base.absences;
-    const bool presente = absences.goTo(place);
+    const bool presente = absences.goTo(place) && resteLaMeme(session, place.row());
     if (!presente && !(commencee && absences.status().ok())) return absences.status();
     commencee = true;
     const Status status = presente ? supprabs(session) : Status{};
     if (!status.ok()) return status;
     const AbsenceSaisie &absence = place.row();
     return valsit(session, absence.nump, absence.datedeb, absence.datefin, true);
+}
+
+Suppression supprime(Session &session, const std::function<Status()> &retire)
+{
+    return enLot(session, retire) ? Suppression::Faite : Suppression::Abandonnee;
 }
 
 /// `absences` stands on the absence.
@@ -50,8 +64,7 @@ Suppression supprimeAbsence(Session &session, const Ligne &ligne)
         QStringLiteral("Suppression absence ") + place.row().codabs + QLatin1Char(' ') + periode;
     if (!session.host.question(question + QStringLiteral(" ?"), titre)) return Suppression::Refusee;
     bool commencee = false;
-    enLot(session, [&] { return retireAbsence(session, place, commencee); });
-    return Suppression::Faite;
+    return supprime(session, [&] { return retireAbsence(session, place, commencee); });
 }
 
 Status retireHoraires(Session &session, int nump, const QDate &debut, const QDate &fin)
@@ -68,8 +81,7 @@ Suppression supprimeHoraires(Session &session, const Ligne &ligne, const QDate &
     ouvreOperation(session, QStringLiteral("Suppr. horaires : ") + ligne.nom + periodetexte(debut, fin));
     if (!session.host.question(QStringLiteral("Suppression horaire(s) ?"), titre))
         return Suppression::Refusee;
-    enLot(session, [&] { return retireHoraires(session, ligne.nump, debut, fin); });
-    return Suppression::Faite;
+    return supprime(session, [&] { return retireHoraires(session, ligne.nump, debut, fin); });
 }
 
 } // namespace
@@ -107,7 +119,7 @@ void supcell(Planning &planning)
         issue = supprimeJours(planning.session, cible->ligne, cible->debut, cible->fin);
     }
     planning.curseur = place;
-    if (issue == Suppression::Faite) {
+    if (issue == Suppression::Faite || issue == Suppression::Abandonnee) {
         planning.pressepapiers.vide();
         majligne(planning, cible->ligne.nump, cible->rangee);
     }

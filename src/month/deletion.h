@@ -8,7 +8,12 @@ namespace velmora
 struct Planning;
 
 /// How a deletion ended.
-enum class Suppression { SansObjet, Refusee, Faite };
+enum class Suppression {
+    SansObjet,
+    Refusee,
+    Abandonnee, ///< the store failed for good, and has said it
+    Faite
+};
 
 /// Deletes what a line holds from one date to another, both included, once the user has agreed: the absence
 /// that covers the first date, whole even beyond them, whose hidden hours then count again; without one, the

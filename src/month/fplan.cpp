@@ -341,7 +341,7 @@ void Fplan::supprime()
     celluleAtteinte();
 }
 
-void Fplan::rejoue(void (*replay)(Session &))
+void Fplan::rejoue(bool (*replay)(Session &))
 {
     m_timer2.stop();
     replay(m_session);

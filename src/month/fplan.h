@@ -68,7 +68,7 @@ private:
     void copie(bool coupe);
     void colle();
     void supprime();
-    void rejoue(void (*replay)(Session &));
+    void rejoue(bool (*replay)(Session &));
     void commenceCode(const QString &touche);
     void verifieCode(const QString &code);
     void saisitAbsence();

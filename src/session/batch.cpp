@@ -14,13 +14,15 @@ namespace
 {
 
 /// Deletes the images of an operation above a rank.
-template <class Image> void retireImages(store::Table<Image> &images, int numop, int nivop)
+template <class Image> Status retireImages(store::Table<Image> &images, int numop, int nivop)
 {
     bool trouve = images.seek(store::Cmp::Gt, {numop, nivop});
     while (trouve && images.row().rang.numop == numop) {
-        images.erase().ignore();
+        const Status status = images.erase();
+        if (!status.ok()) return status;
         trouve = images.next();
     }
+    return images.status();
 }
 
 Status commitBoth(Engine &first, Engine &second)
@@ -50,7 +52,7 @@ Status Batch::begin()
     const Status journal = m_session.journal.engine.begin(Engine::Transaction::Write);
     m_avant = anneau();
     if (m_step) m_step->marque();
-    return m_kind == Kind::Recording ? status : journal;
+    return m_kind == Kind::Recording ? Status{} : journal;
 }
 
 Status Batch::commit()
@@ -67,15 +69,37 @@ Status Batch::commit()
     return m_echec;
 }
 
+bool Batch::enregistre() const
+{
+    return !m_begun || m_session.journal.engine.inTransaction();
+}
+
+void Batch::renonceEnregistrement()
+{
+    m_session.journal.engine.giveUp();
+}
+
+Status Batch::commitJournal()
+{
+    Engine &journal = m_session.journal.engine;
+    if (journal.inTransaction()) return journal.commit();
+    return {Status::Code::Io, QStringLiteral("the journal's transaction is gone")};
+}
+
+/// What comes after an operation that wasn't recorded must not go into the slot that it had been given: that
+/// is another one's again.
 Status Batch::commitJournalFirst()
 {
     Engine &base = m_session.base.engine;
-    Engine &journal = m_session.journal.engine;
-    const Status recorded = journal.inTransaction() ? journal.commit() : Status{};
+    const Status recorded = commitJournal();
     if (!recorded.ok() && m_kind == Kind::Redo) return recorded;
-    journal.rollback();
+    m_session.journal.engine.rollback();
     const Status written = base.commit();
     if (!written.ok() && recorded.ok()) reprendJournal();
+    if (written.ok() && !recorded.ok()) {
+        remetSession();
+        m_session.opcour = m_session.nivcour = 0;
+    }
     return written;
 }
 
@@ -108,33 +132,47 @@ void Batch::remetSession()
 /// drove out of its slot are gone: the slot comes back empty.
 void Batch::reprendJournal()
 {
+    Engine &journal = m_session.journal.engine;
+    if (!journal.begin(Engine::Transaction::Write).ok()) return;
+    // Half of a former ring would be worse than an operation whose rows haven't changed.
+    if (!reprendOperation().ok() || !journal.commit().ok()) journal.rollback();
+}
+
+Status Batch::reprendOperation()
+{
     auto &journal = m_session.journal;
-    if (!journal.engine.begin(Engine::Transaction::Write).ok()) return;
     const int opcour = m_session.opcour;
     const bool nouvelle = opcour != m_avant.opcour;
-    retireImages(journal.sitlog, opcour, nouvelle ? 0 : m_avant.nivcour);
-    retireImages(journal.logabs, opcour, nouvelle ? 0 : m_avant.nivcour);
-    remetOperations(nouvelle ? opcour : 0);
-    if (!journal.engine.commit().ok()) journal.engine.rollback();
+    const int garde = nouvelle ? 0 : m_avant.nivcour;
+    Status status = retireImages(journal.sitlog, opcour, garde);
+    if (status.ok()) status = retireImages(journal.logabs, opcour, garde);
+    return status.ok() ? remetOperations(nouvelle ? opcour : 0) : status;
 }
 
 /// Writes the ring's rows as they were. The slot of an operation opened since comes back free.
-void Batch::remetOperations(int ouverte)
+Status Batch::remetOperations(int ouverte)
 {
     auto &logop = m_session.journal.logop;
-    auto avant = m_avant.operations.cbegin();
-    for (bool found = logop.first(); found && avant != m_avant.operations.cend(); found = logop.next()) {
-        if (!logop.edit().ok()) continue;
-        Operation &operation = logop.values() = *avant++;
+    bool trouvee = logop.first();
+    for (const Operation &avant : m_avant.operations) {
+        Status status = trouvee ? logop.edit() : logop.status();
+        if (!status.ok()) return status;
+        Operation &operation = logop.values() = avant;
         if (ouverte != 0 && operation.numop == ouverte) {
             if (operation.valop) operation.ordop = m_session.nblog + 1;
             operation.valop = false;
         }
-        if (!logop.update().ok()) logop.cancelUpdate();
+        status = logop.update();
+        if (!status.ok()) {
+            logop.cancelUpdate();
+            return status;
+        }
+        trouvee = logop.next();
     }
+    return {};
 }
 
-Batch::Pause::Pause(Batch *batch) : m_batch(batch)
+Batch::Pause::Pause(Batch *batch) : m_batch(batch && batch->m_begun ? batch : nullptr)
 {
     if (m_batch) m_batch->commit().ignore();
 }
@@ -200,7 +238,8 @@ Status unLot(Session &session, const std::function<Status()> &work, Batch::Kind 
     Batch batch(session, kind);
     Status status = batch.begin();
     if (status.ok()) status = work();
-    if (!status.ok() && kind != Batch::Kind::Recording) return status;
+    const bool garde = kind == Batch::Kind::Recording && reessayable(status.code());
+    if (!status.ok() && !garde) return status;
     const Status committed = batch.commit();
     return status.ok() ? committed : status;
 }

@@ -20,8 +20,8 @@ public:
     /// between the two commits, the journal shows the operation in force, keeps its images, and undoing it
     /// is harmless: images are written over whatever the rows hold.
     enum class Kind {
-        Recording, ///< journal first; a failure of the journal alone is passed over and the planning changes;
-                   ///< when the planning's commit fails, the recording is taken back
+        Recording, ///< journal first; when the journal alone fails, the planning changes unrecorded; when the
+                   ///< planning's commit fails, the recording is taken back
         Undo,      ///< planning first; whole or not at all: else rows could stay that no undo reaches
         Redo       ///< journal first; whole or not at all
     };
@@ -37,9 +37,14 @@ public:
     /// recording of what has been written since `begin`.
     [[nodiscard]] store::Status commit();
     void rollback();
+    /// Whether what the command writes can be recorded: false once the journal's part of the transaction
+    /// failed. The ring is then as it was before the batch, and no slot is open.
+    [[nodiscard]] bool enregistre() const;
+    /// Drops the journal's part: half an operation in the ring would be played over other days.
+    void renonceEnregistrement();
 
     /// Commits a running batch, so that no lock is held, until the end of its scope. A batch that can't take
-    /// the lock again goes on without it, row by row.
+    /// the lock again goes on without it, row by row. A pause within a pause does nothing.
     class Pause
     {
     public:
@@ -65,10 +70,12 @@ private:
     };
 
     [[nodiscard]] Anneau anneau();
+    [[nodiscard]] store::Status commitJournal();
     [[nodiscard]] store::Status commitJournalFirst();
     void remetSession();
     void reprendJournal();
-    void remetOperations(int ouverte);
+    [[nodiscard]] store::Status reprendOperation();
+    [[nodiscard]] store::Status remetOperations(int ouverte);
 
     Session &m_session;
     Kind m_kind;
@@ -108,7 +115,7 @@ private:
 /// holds and of the disk for a failure of the disk: on Yes the whole command runs again, on No the process
 /// ends. After a failure in which the engine gave the transaction up by itself nothing of the command stands,
 /// and its operation isn't in the ring. A failure that another try can't mend (a missing row, a key that is
-/// already there, a misuse) is told in a message, and the command is given up.
+/// already there, a misuse) is told in a message, and the command is given up and taken back.
 /// An undo or a redo that fails is taken back whole before the question. A batch within a batch joins it: a
 /// wait that lets events run may start another command.
 /// Returns false when the command was given up.

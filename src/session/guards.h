@@ -6,8 +6,9 @@ namespace velmora
 {
 
 /// Waits until no change is under way on the table. After 1000 rounds of `pause` it asks `question` and on
-/// Yes goes round again, trying a failed update once more; on No the process ends at once with what has been
-/// written. A command's transaction is committed while the user is being asked, so no lock is held.
+/// Yes goes round again, trying a failed update once more, unrecorded; on No the process ends at once with
+/// what has been written. Rounds and not a time, on purpose. A command's transaction is committed while the
+/// user is being asked, so no lock is held.
 void attendlibre(Session &session, store::TableBase &table, const QString &question, void (*pause)());
 
 /// The pause of the guards: an empty counted loop of 100 rounds, with no yielding to the event loop.

@@ -62,7 +62,10 @@ bool identifie(Session &session)
     bool trouve = agent.first();
     while (trouve && agent.row().pseudo != session.pseudo)
         trouve = agent.next();
-    if (!trouve) return false;
+    if (!trouve) {
+        session.echecBase = agent.status();
+        return false;
+    }
     session.nomUtilisateur = agent.row().nom;
     session.droitUtilisateur = static_cast<qint16>(agent.row().droit);
     session.mesUtilisateur = valeurMes(agent.row().mes);
@@ -98,6 +101,8 @@ void Velmoral::demarre()
     if (!ouvrejournal(m_session)) m_session.host.endProcess();
     if (!ouvrebase(m_session)) m_session.host.endProcess();
     if (!identifie(m_session)) {
+        // A table that can't be read to its end isn't a user who isn't there.
+        if (!m_session.echecBase.ok()) m_session.host.endProcess();
         m_session.host.message(QStringLiteral("Mot de passe non accepté :"), titre);
         return;
     }

@@ -71,7 +71,7 @@ struct Agent {
     QString nom;
     int droit = 0;
     QString mes; ///< may be null
-    bool bss = false;
+    bool bss = false; ///< nothing reads or writes it; the files have it
     Affichage affichage;
 };
 

@@ -77,9 +77,13 @@ public:
     /// Runs statements that give no rows.
     [[nodiscard]] virtual Status execute(const QString &sql) = 0;
 
+    /// An engine may give a write transaction up by itself when its disk fails. Then nothing runs until
+    /// `commit`, which fails, or `rollback`: what belongs to the transaction must not be written alone.
     [[nodiscard]] virtual Status begin(Transaction kind) = 0;
     [[nodiscard]] virtual Status commit() = 0;
     virtual void rollback() = 0;
+    /// Gives a write transaction up, as a failing disk would.
+    virtual void giveUp() = 0;
     [[nodiscard]] virtual bool inTransaction() const = 0;
 
     /// A mark within the transaction, to which what is written after it can be taken back. Marks nest: the

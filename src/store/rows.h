@@ -119,8 +119,8 @@ struct Dossier {
 /// `tnum`: the one row of the base's own state.
 struct Tnum {
     QString chemin; ///< last backup target
-    double Version = 0;
-    int num = 0;
+    double Version = 0; ///< of the engine that made the row; files of any version are opened
+    int num = 0;        ///< 1; nothing reads it
 };
 
 /// `veloption`: no field of it is read; the table has to be there.

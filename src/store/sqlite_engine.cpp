@@ -26,13 +26,16 @@ Status failure(sqlite3 *database, int result)
     return {statusCode(result), text};
 }
 
-class SqliteStatement : public Statement
+} // namespace
+
+class SqliteEngine::Prepared : public Statement
 {
 public:
-    SqliteStatement(sqlite3 *database, sqlite3_stmt *statement) : m_database(database), m_statement(statement)
+    Prepared(const SqliteEngine &engine, sqlite3_stmt *statement)
+        : m_engine(engine), m_database(engine.m_database), m_statement(statement)
     {
     }
-    ~SqliteStatement() override { sqlite3_finalize(m_statement); }
+    ~Prepared() override { sqlite3_finalize(m_statement); }
 
     void bindInt(int position, std::int64_t value) override
     {
@@ -52,6 +55,7 @@ public:
     Step step() override
     {
         // A value that couldn't be bound must not run as the one before it.
+        if (m_status.ok() && m_engine.lost()) m_status = lostStatus();
         if (!m_status.ok()) return Step::Failed;
         const int result = sqlite3_step(m_statement);
         if (result == SQLITE_ROW) return Step::Row;
@@ -85,12 +89,11 @@ private:
         if (result != SQLITE_OK && m_status.ok()) m_status = failure(m_database, result);
     }
 
+    const SqliteEngine &m_engine;
     sqlite3 *m_database;
     sqlite3_stmt *m_statement;
     Status m_status;
 };
-
-} // namespace
 
 Status::Code statusCode(int sqliteResult)
 {
@@ -125,6 +128,12 @@ void SqliteEngine::close()
         statement->reset();
     sqlite3_close_v2(m_database);
     m_database = nullptr;
+    m_writing = false;
+}
+
+Status SqliteEngine::lostStatus()
+{
+    return {Status::Code::Io, QStringLiteral("the transaction is gone")};
 }
 
 Status SqliteEngine::noted(int result) const
@@ -184,11 +193,12 @@ std::unique_ptr<Statement> SqliteEngine::prepare(const QString &sql)
     const int result = sqlite3_prepare_v3(m_database, utf8.constData(), static_cast<int>(utf8.size()),
                                           SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
     if (!noted(result).ok() || !statement) return nullptr;
-    return std::make_unique<SqliteStatement>(m_database, statement);
+    return std::make_unique<Prepared>(*this, statement);
 }
 
 Status SqliteEngine::execute(const QString &sql)
 {
+    if (lost()) return lostStatus();
     return noted(sqlite3_exec(m_database, sql.toUtf8().constData(), nullptr, nullptr, nullptr));
 }
 
@@ -205,16 +215,26 @@ Status SqliteEngine::runKept(std::unique_ptr<Statement> &statement, const QStrin
 Status SqliteEngine::begin(Transaction kind)
 {
     // A commit must not meet a reader: what it waits for, it waits for here.
-    if (kind == Transaction::Write) return runKept(m_begin[1], QStringLiteral("BEGIN EXCLUSIVE"));
-    return runKept(m_begin[0], QStringLiteral("BEGIN"));
+    if (kind == Transaction::Read) return runKept(m_begin[0], QStringLiteral("BEGIN"));
+    const Status begun = runKept(m_begin[1], QStringLiteral("BEGIN EXCLUSIVE"));
+    m_writing = m_writing || begun.ok();
+    return begun;
 }
 
 Status SqliteEngine::commit()
 {
-    return runKept(m_commit, QStringLiteral("COMMIT"));
+    const Status committed = runKept(m_commit, QStringLiteral("COMMIT"));
+    m_writing = m_writing && inTransaction();
+    return committed;
 }
 
 void SqliteEngine::rollback()
+{
+    giveUp();
+    m_writing = false;
+}
+
+void SqliteEngine::giveUp()
 {
     if (inTransaction()) execute(QStringLiteral("ROLLBACK")).ignore();
 }

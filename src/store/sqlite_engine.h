@@ -12,6 +12,8 @@ namespace velmora::store
 class SqliteEngine : public Engine
 {
 public:
+    class Prepared;
+
     SqliteEngine();
     ~SqliteEngine() override;
 
@@ -26,6 +28,7 @@ public:
     [[nodiscard]] Status begin(Transaction kind) override;
     [[nodiscard]] Status commit() override;
     void rollback() override;
+    void giveUp() override;
     [[nodiscard]] bool inTransaction() const override;
     [[nodiscard]] Status setMark() override;
     [[nodiscard]] Status dropMark() override;
@@ -40,8 +43,12 @@ private:
     [[nodiscard]] Status noted(int result) const;
     /// Runs a statement that is prepared at its first use and kept.
     [[nodiscard]] Status runKept(std::unique_ptr<Statement> &statement, const QString &sql);
+    /// A write transaction was begun and the engine gave it up by itself.
+    [[nodiscard]] bool lost() const { return m_writing && !inTransaction(); }
+    [[nodiscard]] static Status lostStatus();
 
     sqlite3 *m_database = nullptr;
+    bool m_writing = false; ///< from the begin of a write transaction to its commit or rollback
     std::unique_ptr<Statement> m_begin[2];
     std::unique_ptr<Statement> m_commit;
     std::unique_ptr<Statement> m_setMark;

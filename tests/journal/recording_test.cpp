@@ -161,7 +161,7 @@ TEST_F(RecordingTest, SlotTakenAgainLosesItsOwnImagesOnly)
     EXPECT_EQ(record(), 1);
     EXPECT_EQ(dayImages().size(), 1);
     EXPECT_EQ(absenceImages().size(), 1);
-    purgeop(session, 2);
+    EXPECT_TRUE(purgeop(session, 2).ok());
     EXPECT_TRUE(dayImages().isEmpty());
 }
 

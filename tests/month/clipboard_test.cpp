@@ -1,4 +1,5 @@
 #include "journal/recording.h"
+#include "journal/replay.h"
 #include "month/open_month.h"
 #include "month/selection.h"
 #include "month/stored_days.h"
@@ -15,7 +16,7 @@ class ClipboardTest : public StoredDays
 protected:
     Pressepapiers presse;
 
-    bool hold(int nump, const QDate &from, int days, bool cut = false)
+    Retenue hold(int nump, const QDate &from, int days, bool cut = false)
     {
         presse.clipcoupe = cut;
         return retientJours(session, presse, line(nump), from, from.addDays(days - 1));
@@ -121,13 +122,13 @@ TEST_F(ClipboardTest, SecondTryOfACutStillHoldsWhatTheFirstOneTookOut)
 {
     plant(1, first, "8 9 10 11");
     failAfter(2);
-    EXPECT_TRUE(hold(1, first, 4, true));
+    EXPECT_EQ(hold(1, first, 4, true), Retenue::Faite);
     EXPECT_EQ(stored(1, first, 4), "- - - -");
     paste(2, {2026, 6, 10});
     EXPECT_EQ(stored(2, {2026, 6, 10}, 4), "8 9 10 11");
 }
 
-TEST_F(ClipboardTest, SecondTryOfAPasteWritesEveryDayAndLeavesTheClipboard)
+TEST_F(ClipboardTest, SecondTryOfAPasteWritesEveryDayInItsOneOperationAndLeavesTheClipboard)
 {
     plant(1, first, "8 9 10");
     plant(2, {2026, 6, 10}, "6 6 6");
@@ -137,6 +138,10 @@ TEST_F(ClipboardTest, SecondTryOfAPasteWritesEveryDayAndLeavesTheClipboard)
     EXPECT_EQ(stored(2, {2026, 6, 10}, 3), "8 9 10");
     EXPECT_FALSE(session.collage);
     EXPECT_EQ(session.journal.sitco.recordCount(), 3);
+    station.host.expectQuestion(
+        QStringLiteral("invalider :  - collé: horaires pour BRUNO  du 10 au 12/06/2026"), true);
+    annulop(session);
+    EXPECT_EQ(stored(2, {2026, 6, 10}, 3), "6 6 6");
 }
 
 class ClipboardInTheGrid : public StoredDays

@@ -4,6 +4,9 @@
 #include "support/raw_sqlite.h"
 #include "support/workstation.h"
 
+#include <QCoreApplication>
+#include <QTimer>
+
 namespace velmora::test
 {
 namespace
@@ -83,6 +86,33 @@ TEST_F(GuardsTest, YesKeepsAskingWhileTheEditStandsAndGoesOnOnceItIsDropped)
     EXPECT_TRUE(editgarde(session, ligmois).ok());
 }
 
+TEST_F(GuardsTest, WaitsAThousandRoundsAndLetsNoEventRun)
+{
+    static int rounds = 0;
+    static int freedAt = 0;
+    static store::TableBase *held = nullptr;
+    held = &ligmois;
+    for (const bool asks : {false, true}) {
+        ASSERT_TRUE(ligmois.edit().ok());
+        rounds = 0;
+        freedAt = asks ? 1000 : 999;
+        if (asks) host.expectQuestion(bloquage, true);
+        attendlibre(session, ligmois, bloquage, [] {
+            if (++rounds == freedAt) held->cancelUpdate();
+        });
+        EXPECT_EQ(rounds, freedAt);
+    }
+    ASSERT_TRUE(ligmois.edit().ok());
+    bool ran = false;
+    QTimer::singleShot(0, qApp, [&ran] { ran = true; });
+    host.expectQuestion(bloquage, true);
+    host.whenAsked = [&] {
+        EXPECT_FALSE(ran);
+        ligmois.cancelUpdate();
+    };
+    EXPECT_TRUE(ajoutgarde(session, ligmois).ok());
+}
+
 TEST_F(GuardsTest, YesTriesAFailedUpdateAgainSoThatItsValuesAreNotLost)
 {
     otherHolds();
@@ -114,6 +144,22 @@ TEST_F(GuardsTest, NoLockIsHeldWhileTheUserIsAsked)
     });
     EXPECT_EQ(other.rows(QStringLiteral("SELECT nump, nom FROM ligmois ORDER BY nump")),
               (QStringList{QStringLiteral("1|EMMA B"), QStringLiteral("2|")}));
+}
+
+TEST_F(GuardsTest, PauseWithinAPauseLeavesTheLockToTheFirst)
+{
+    enLot(session, [&] {
+        {
+            const Batch::Pause first(session.batch);
+            {
+                const Batch::Pause second(session.batch);
+            }
+            EXPECT_FALSE(session.base.engine.inTransaction());
+        }
+        EXPECT_TRUE(session.base.engine.inTransaction());
+        return rename(QStringLiteral("EMMA B"));
+    });
+    EXPECT_EQ(nameInFile(), QStringLiteral("EMMA B"));
 }
 
 TEST_F(GuardsTest, CommandWaitsForAnotherWorkstationsLockAndLosesNothing)
@@ -186,7 +232,11 @@ TEST_F(GuardsTest, FailureThatAnotherTryCantMendGivesTheCommandUp)
 {
     for (const auto code : {Status::Code::NoRow, Status::Code::Constraint, Status::Code::Misuse}) {
         host.expectMessage(QStringLiteral("Problème accès disque!"));
-        EXPECT_FALSE(enLot(session, [&] { return Status{code, {}}; }));
+        EXPECT_FALSE(enLot(session, [&] {
+            EXPECT_TRUE(rename(QStringLiteral("À MOITIÉ")).ok());
+            return Status{code, {}};
+        }));
+        EXPECT_EQ(nameInFile(), QStringLiteral("EMMA"));
     }
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "absences/absence_entry.h"
+#include "absences/codes.h"
 #include "absences/placing.h"
+#include "calendar/parameter_sets.h"
 #include "folders/composition.h"
 #include "journal/recording.h"
 #include "lines/lifecycle.h"
@@ -37,6 +39,13 @@ public:
         annulop(session);
         session.base.close();
         session.journal.close();
+        keep();
+    }
+
+    /// What the files hold now is what they are put back to.
+    void keep()
+    {
+        m_contents.clear();
         for (const QString &path : paths())
             m_contents << contentAt(path);
     }
@@ -116,6 +125,23 @@ inline const std::vector<SessionCommand> &everyCommand()
              for (int i = 0; i < static_cast<int>(folder.lignes().size()); ++i)
                  folder.coche(i, folder.lignes()[static_cast<std::size_t>(i)].nump == 2);
              EXPECT_TRUE(folder.enregistre(QStringLiteral("Nuit")));
+         }},
+        {"new code", false,
+         [](Session &session) {
+             FicheCode code;
+             code.codabs = QStringLiteral("ZZ");
+             code.libecour = QStringLiteral("Essai");
+             code.choisit(Valorisation::Jamais);
+             EXPECT_TRUE(enregistreCode(session, code));
+         }},
+        {"new parameter set", false,
+         [](Session &session) {
+             session.modeajout = true;
+             EXPECT_TRUE(enregistrejeu(session, {QStringLiteral("01/09/2026"), 3, QStringLiteral("Foyer")}));
+         }},
+        {"deletion of a parameter set", false,
+         [](Session &session) {
+             EXPECT_TRUE(supprjeu(session, {2010, 1, 1}));
          }},
         {"undo", true, [](Session &session) { annulop(session); }},
         {"redo", false, [](Session &session) { refaitop(session); }},
