@@ -27,6 +27,12 @@ TEST(BackupCommand, CopiesToAFolderAndTellsWhyItCannot)
     EXPECT_EQ(queryOne(place.filePath(store::fichierBase), rows), queryOne(program.base(), rows));
     EXPECT_EQ(queryOne(place.filePath(store::fichierJournal), "SELECT count(*) FROM logop"), "31");
     EXPECT_EQ(queryOne(program.base(), "SELECT chemin FROM tnum"), place.path());
+    // A target from where the program runs is remembered for every workstation.
+    const QTemporaryDir near(QDir::current().filePath("copies-XXXXXX"));
+    EXPECT_EQ(program({"sauvegarde", QFileInfo(near.path()).fileName()}).status, 0);
+    EXPECT_EQ(queryOne(program.base(), "SELECT chemin FROM tnum"),
+              QFileInfo(near.path()).canonicalFilePath());
+    EXPECT_EQ(program({"sauvegarde", "."}).errorLines(), QStringList{"chemin absent"});
 }
 
 TEST(BackupCommand, AFullDiskIsARefusalAndChangesNothingElse)
