@@ -31,8 +31,7 @@ int openShared(const char *path)
 /// Whether another process has the file. A file system that knows no locks is left to itself.
 bool isTaken(int handle)
 {
-    struct flock whole {
-    };
+    struct flock whole = {};
     whole.l_type = F_WRLCK;
     whole.l_whence = SEEK_SET;
     // Held by this handle and not by the process: two sessions of one process stand apart as well.
@@ -69,10 +68,8 @@ Status CopyingLock::take()
 /// Whoever had the lock may have removed its file between our opening and our locking it.
 bool CopyingLock::isStillThere() const
 {
-    struct stat held {
-    };
-    struct stat named {
-    };
+    struct stat held = {};
+    struct stat named = {};
     return ::fstat(m_handle, &held) == 0 && ::lstat(m_path.constData(), &named) == 0 &&
            held.st_dev == named.st_dev && held.st_ino == named.st_ino;
 }

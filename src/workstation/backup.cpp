@@ -40,16 +40,17 @@ bool memeDossier(const QString &un, const QString &autre)
 }
 
 /// Whether a workstation lives in a folder: its journal is held, or its base is a link to a shared one. A
-/// base that others share and that has no such journal beside it isn't known from a copy: while nobody
-/// writes, nothing holds it.
+/// shared base with no such journal beside it can't be told from a copy: while nobody writes, nothing holds
+/// it.
 bool habite(const QString &dossier)
 {
     const QString debut = avecSeparateur(dossier);
     if (QFileInfo(debut + store::fichierBase).isSymLink()) return true;
+    const QString fichier = debut + store::fichierJournal;
     store::SqliteEngine journal;
-    const store::Status status =
-        journal.open(debut + store::fichierJournal, {.readOnly = true, .busyWait = attenteJournal});
-    return status.code() == store::Status::Code::Busy;
+    return QFileInfo::exists(fichier) &&
+           journal.open(fichier, {.readOnly = true, .busyWait = attenteJournal}).code() ==
+               store::Status::Code::Busy;
 }
 
 /// A target that can't be noted is no reason to go without the copies.
