@@ -10,8 +10,9 @@ StartCheck startCheck(Session &session)
     auto &parcg = session.base.parcg;
     // A table that can't be read isn't an empty one.
     if (parcg.isEmpty()) return parcg.status().ok() ? StartCheck::NeedParametres : StartCheck::Nothing;
-    const bool enough = session.base.ferie.isEmpty() || feriesAJour(session.base, session.host.today());
-    return enough ? StartCheck::Nothing : StartCheck::NeedFeries;
+    auto &ferie = session.base.ferie;
+    const bool enough = ferie.isEmpty() || feriesAJour(session.base, session.host.today());
+    return enough || !ferie.status().ok() ? StartCheck::Nothing : StartCheck::NeedFeries;
 }
 
 } // namespace velmora

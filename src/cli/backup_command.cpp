@@ -3,6 +3,8 @@
 #include "cli/families.h"
 #include "cli/start.h"
 
+#include <QDir>
+
 namespace velmora::cli
 {
 
@@ -13,7 +15,10 @@ int sauve(Session &session, const QString &dossier)
 {
     const CibleSauvegarde cible = cibleSauvegarde(session, dossier);
     if (!cible.refus.isEmpty()) return refus(cible.refus);
-    const Sauvegarde faite = sauvegarde(session, cible.dossier);
+    // The base remembers the target for every workstation, wherever it is started.
+    const bool relatif = QDir::isRelativePath(cible.dossier);
+    const Sauvegarde faite =
+        sauvegarde(session, relatif ? QFileInfo(cible.dossier).canonicalFilePath() : cible.dossier);
     if (!faite.complete) return refus(faite.bilan);
     imprime(faite.bilan);
     return faite.rouvertes ? reussi : refuse;

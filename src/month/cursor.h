@@ -24,7 +24,8 @@ void entreCellule(Planning &planning);
 /// below 5.
 [[nodiscard]] bool etireColonnes(Grille &grille, int twips);
 
-/// Heightens the rows from the day labels to the last line by so many twips.
+/// Heightens the rows from the day labels to the last line by so many twips. That the row of the day labels
+/// stretches with the lines is wanted.
 void etireLignes(Grille &grille, int twips);
 
 } // namespace velmora

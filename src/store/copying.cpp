@@ -1,5 +1,6 @@
 #include "store/copying.h"
 
+#include "store/copying_lock.h"
 #include "store/file_replacement.h"
 #include "store/integrity.h"
 #include "store/sqlite_engine.h"
@@ -45,16 +46,25 @@ public:
     {
         return status(sqlite3_exec(m_database, sql, nullptr, nullptr, nullptr));
     }
-    [[nodiscard]] Status status(int result) const
+    [[nodiscard]] Status status(int result) const { return noted(result, sqlite3_errmsg(m_database)); }
+    /// Puts what has been written to the disk. The engine itself is told not to.
+    [[nodiscard]] Status synchronise()
     {
-        if (statusCode(result) == Status::Code::Ok) return {};
-        const QString text = QString::fromUtf8(sqlite3_errmsg(m_database));
-        qCWarning(logStore, "copy %d: %s", result, qUtf8Printable(text));
-        return {statusCode(result), text};
+        sqlite3_file *file = nullptr;
+        sqlite3_file_control(m_database, "main", SQLITE_FCNTL_FILE_POINTER, &file);
+        const int result = file->pMethods->xSync(file, SQLITE_SYNC_FULL);
+        return noted(result, sqlite3_errstr(result));
     }
     [[nodiscard]] sqlite3 *get() const { return m_database; }
 
 private:
+    static Status noted(int result, const char *utf8)
+    {
+        if (statusCode(result) == Status::Code::Ok) return {};
+        qCWarning(logStore, "copy %d: %s", result, utf8);
+        return {statusCode(result), QString::fromUtf8(utf8)};
+    }
+
     sqlite3 *m_database = nullptr;
 };
 
@@ -82,11 +92,12 @@ Status holdSource(Connection &from, const QString &source, std::chrono::millisec
     return from.execute("BEGIN; SELECT count(*) FROM sqlite_master");
 }
 
-/// Makes the new file. Nobody else knows it, and half of it is thrown away: it needs no journal.
+/// Makes the new file. Nobody else knows it, and half of it is thrown away: it needs no journal, and is put
+/// to the disk once it is complete.
 Status makeTarget(Connection &to, const QString &work)
 {
     const Status status = to.open(work, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-    return status.ok() ? to.execute("PRAGMA journal_mode = OFF; PRAGMA synchronous = FULL") : status;
+    return status.ok() ? to.execute("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF") : status;
 }
 
 Fault faultOf(int result)
@@ -115,30 +126,43 @@ CopyOutcome copyPages(const Connection &from, const Connection &to, const CopyPr
     return outcome(faultOf(result), to.status(result));
 }
 
-CopyOutcome transfer(const QString &source, const QString &work, const CopyOptions &options)
+CopyOutcome copyLocked(const QString &source, const Connection &to, const CopyOptions &options)
 {
     Connection from;
-    Connection to;
-    Status status = holdSource(from, source, options.busyWait);
-    if (!status.ok()) return {Fault::Source, status};
-    status = makeTarget(to, work);
-    return status.ok() ? copyPages(from, to, options.progress) : CopyOutcome{Fault::Target, status};
+    const Status status = holdSource(from, source, options.busyWait);
+    return status.ok() ? copyPages(from, to, options.progress) : CopyOutcome{Fault::Source, status};
 }
 
+/// The lock on the file to copy covers the reading alone: a slow disk holds up nobody else.
+CopyOutcome transfer(const QString &source, const QString &work, const CopyOptions &options)
+{
+    Connection to;
+    const Status status = makeTarget(to, work);
+    if (!status.ok()) return {Fault::Target, status};
+    const CopyOutcome copy = copyLocked(source, to, options);
+    return copy.ok() ? outcome(Fault::Target, to.synchronise()) : copy;
+}
+
+/// Reads the copy back. What can't be read is the place's fault, unsound content the original's.
 CopyOutcome checkCopy(const QString &work)
 {
     SqliteEngine engine;
-    const Status status = engine.open(work, {.readOnly = true});
-    if (!status.ok()) return {QFileInfo::exists(work) ? Fault::Copy : Fault::Target, status};
-    return outcome(Fault::Copy, checkIntegrity(engine));
+    Status status = engine.open(work, {.readOnly = true});
+    if (status.ok()) status = checkIntegrity(engine);
+    const bool unsound =
+        status.code() == Status::Code::Damaged || status.code() == Status::Code::NotADatabase;
+    return outcome(unsound ? Fault::Copy : Fault::Target, status);
 }
 
 } // namespace
 
 CopyOutcome copyDatabase(const QString &source, const QString &target, const CopyOptions &options)
 {
+    CopyingLock lock(target);
+    const Status status = lock.take();
+    if (!status.ok()) return {Fault::Target, status};
     const QString work = target + QStringLiteral(".partiel");
-    QFile::remove(work);
+    QFile::remove(work); // of a copy that was killed
     CopyOutcome copy = transfer(source, work, options);
     if (copy.ok()) copy = checkCopy(work);
     if (copy.ok()) copy = outcome(Fault::Target, replaceFile(work, target));

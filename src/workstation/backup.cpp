@@ -3,6 +3,7 @@
 #include "session/guards.h"
 #include "session/opening.h"
 #include "session/velmoral.h"
+#include "store/sqlite_engine.h"
 
 #include <QFileInfo>
 
@@ -24,8 +25,9 @@ struct Fichier {
 };
 
 /// A journal that is held is held as long as its session lives.
-const std::array<Fichier, 2> fichiers{{{store::fichierBase, store::OpenOptions().busyWait},
-                                       {store::fichierJournal, std::chrono::milliseconds(300)}}};
+constexpr std::chrono::milliseconds attenteJournal(300);
+const std::array<Fichier, 2> fichiers{
+    {{store::fichierBase, store::OpenOptions().busyWait}, {store::fichierJournal, attenteJournal}}};
 constexpr int lettresMini = 2;
 const QString cheminAbsent = QStringLiteral("chemin absent");
 const QString nonRetrouve = QStringLiteral("Chemin non retrouvé ou périphérique indisponible!");
@@ -35,6 +37,20 @@ bool memeDossier(const QString &un, const QString &autre)
     std::error_code erreur;
     return std::filesystem::equivalent(QFile::encodeName(un).toStdString(),
                                        QFile::encodeName(autre).toStdString(), erreur);
+}
+
+/// Whether a workstation lives in a folder: its journal is held, or its base is a link to a shared one. A
+/// shared base with no such journal beside it can't be told from a copy: while nobody writes, nothing holds
+/// it.
+bool habite(const QString &dossier)
+{
+    const QString debut = avecSeparateur(dossier);
+    if (QFileInfo(debut + store::fichierBase).isSymLink()) return true;
+    const QString fichier = debut + store::fichierJournal;
+    store::SqliteEngine journal;
+    return QFileInfo::exists(fichier) &&
+           journal.open(fichier, {.readOnly = true, .busyWait = attenteJournal}).code() ==
+               store::Status::Code::Busy;
 }
 
 /// A target that can't be noted is no reason to go without the copies.
@@ -52,12 +68,16 @@ QString phraseSource(const QString &source, const store::Status &status)
     if (!QFileInfo::exists(source)) return QStringLiteral("le fichier %1 n'existe pas").arg(source);
     if (status.code() == Code::Busy)
         return QStringLiteral("le fichier %1 est tenu par un autre poste").arg(source);
+    if (status.code() == Code::Damaged)
+        return QStringLiteral("le fichier %1 est endommagé, « velmora verifie » dit en quoi").arg(source);
     return QStringLiteral("le fichier %1 ne peut pas être lu").arg(source);
 }
 
 QString phraseCible(const QString &dossier, const store::Status &status)
 {
     using Code = store::Status::Code;
+    if (status.code() == Code::Busy)
+        return QStringLiteral("une autre sauvegarde est en cours dans %1").arg(dossier);
     if (status.code() == Code::Full) return QStringLiteral("il n'y a plus de place dans %1").arg(dossier);
     if (status.code() == Code::CantOpen || status.code() == Code::ReadOnly)
         return QStringLiteral("aucun fichier ne peut être écrit dans %1").arg(dossier);
@@ -110,9 +130,8 @@ private:
         const auto &[faute, status] = m_issues[i];
         const QString &fichier = fichiers[i].nom;
         if (faute == Fault::None) return QStringLiteral("%1 est copié et vérifié.").arg(fichier);
-        QString raison = QStringLiteral("la copie est défectueuse et n'a pas été gardée");
-        if (faute == Fault::Source) raison = phraseSource(m_origine + fichier, status);
-        if (faute == Fault::Target) raison = phraseCible(m_dossier, status);
+        const QString raison = faute == Fault::Target ? phraseCible(m_dossier, status)
+                                                      : phraseSource(m_origine + fichier, status);
         return QStringLiteral("%1 n'est pas copié : %2.").arg(fichier, raison);
     }
 
@@ -121,6 +140,7 @@ private:
     std::array<store::CopyOutcome, 2> m_issues;
 };
 
+/// The folder named is the base's for the journal too, which was opened in its own: wanted so.
 void ditNonRouverte(Session &session, const QString &fichier)
 {
     session.host.message(QStringLiteral("la réouverture de la base de données ") + session.cheminbase +
@@ -147,6 +167,11 @@ CibleSauvegarde cibleSauvegarde(const Session &session, QString texte)
         if (memeDossier(texte, dossier))
             return {{},
                     QStringLiteral("Les bases de données sont déjà dans ce dossier : indiquez-en un autre.")};
+    }
+    if (habite(texte)) {
+        return {
+            {},
+            QStringLiteral("Un poste se sert des bases de données de ce dossier : indiquez-en un autre.")};
     }
     return {texte, {}};
 }

@@ -13,7 +13,8 @@ struct CibleSauvegarde {
 };
 
 /// The target as the user typed it. A separator at its end is cut off. The folders that the databases lie in
-/// are refused: a copy would take the place of what it was made from.
+/// are refused, as a copy would take the place of what it was made from, and so is one that another
+/// workstation is seen to use.
 [[nodiscard]] CibleSauvegarde cibleSauvegarde(const Session &session, QString texte);
 
 /// The target that the base remembers, empty for none.

@@ -10,12 +10,12 @@ namespace
 
 const QString police = QStringLiteral("MS Sans Serif");
 
-/// A field for a colour and the colour that it has at first, or the desktop's window text.
+/// A field for a colour and the colour that it has at first, or that of the window text in use.
 struct Couleur {
     std::optional<int> Affichage::*champ;
     int defaut;
 };
-constexpr int texteDuBureau = -1;
+constexpr int texteFenetres = -1;
 
 constexpr Couleur couleurs[] = {
     {&Affichage::cclbp, 0xE0E0E0},       {&Affichage::cclbnp, 0xFFFFFF},
@@ -25,11 +25,11 @@ constexpr Couleur couleurs[] = {
     {&Affichage::cclfgrid, 0x000040},    {&Affichage::cclbgrid, 0xC0C0C0},
     {&Affichage::cclfsd, 0x000080},      {&Affichage::cclff, 0x800000},
     {&Affichage::cclfform, 0x000040},    {&Affichage::cclbform, 0xE0E0E0},
-    {&Affichage::cclfm, texteDuBureau},  {&Affichage::cclbm1, 0xFFFFC0},
+    {&Affichage::cclfm, texteFenetres},  {&Affichage::cclbm1, 0xFFFFC0},
     {&Affichage::cclbm2, 0xFFE0C0},      {&Affichage::cclbsel, 0x000080},
     {&Affichage::cclbdem, 0x800000},     {&Affichage::cclbano, 0x008000},
     {&Affichage::cclberr, 0x00C000},     {&Affichage::cclbsais, 0xFF0000},
-    {&Affichage::cclfm1, texteDuBureau}, {&Affichage::cclfm2, texteDuBureau},
+    {&Affichage::cclfm1, texteFenetres}, {&Affichage::cclfm2, texteFenetres},
     {&Affichage::cclfsel, 0xFFFFFF},     {&Affichage::cclfdem, 0xFFFFFF},
     {&Affichage::cclfano, 0xFFFFFF},     {&Affichage::cclferr, 0xFFFFFF},
     {&Affichage::cclfsais, 0xFFFFFF},    {&Affichage::cclfnom, 0x000080},
@@ -67,7 +67,8 @@ QString texteBooleen(bool value)
     return value ? QStringLiteral("-1") : QStringLiteral("0");
 }
 
-/// Gives the user's row these settings. A failure is passed over.
+/// Gives the user's row these settings. A failure is passed over. Written without a batch on purpose: one row
+/// needs no lock that is taken beforehand.
 void ecrit(Session &session, const Affichage &affichage)
 {
     auto &agent = session.base.agent;
@@ -82,7 +83,7 @@ Affichage affichageParDefaut(QRgb texteFenetre, const QString &fontSession)
 {
     Affichage affichage;
     for (const auto &[champ, defaut] : couleurs)
-        affichage.*champ = defaut == texteDuBureau ? static_cast<int>(texteFenetre & RGB_MASK) : defaut;
+        affichage.*champ = defaut == texteFenetres ? static_cast<int>(texteFenetre & RGB_MASK) : defaut;
     for (const auto &[champ, modele] : suites)
         affichage.*champ = affichage.*modele;
     // The answer of the comparison is stored, not the font's name: wanted so, and nothing uses the value.

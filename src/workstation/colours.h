@@ -7,8 +7,8 @@
 namespace velmora
 {
 
-/// The display settings that a user has before any of his own. `texteFenetre` is the desktop's window text
-/// colour, `fontSession` the session's name of the first font.
+/// The display settings that a user has before any of his own. `texteFenetre` is the window text colour
+/// in use, `fontSession` the session's name of the first font.
 [[nodiscard]] Affichage affichageParDefaut(QRgb texteFenetre, const QString &fontSession);
 
 /// Whether a row holds its settings. One missing value of the few that are looked at means that none counts.

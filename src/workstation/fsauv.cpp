@@ -24,8 +24,6 @@ Fsauv::Fsauv(Session &session, QWidget *parent)
     m_session.dlgvalide = false;
     construit();
     dispose();
-    // A target from elsewhere may be longer than what is typed here; half of it could be another folder.
-    m_text1->setMaxLength(qMax(longueurCible, int(m_cible.size())));
     m_text1->setText(m_cible);
     m_text1->setFocus();
     connect(m_command1, &QPushButton::clicked, this, &Fsauv::accept);
@@ -36,6 +34,7 @@ void Fsauv::construit()
 {
     setObjectName(QStringLiteral("Fsauv"));
     setWindowTitle(QStringLiteral("Sauvegarde"));
+    // The ending is doubled: wanted so.
     m_frame1 = nomme(new QGroupBox(QStringLiteral("Effectuer une sauvegarde des bases de données velmora et "
                                                   "velmoralog.mdb.mdb"),
                                    this),
@@ -47,7 +46,8 @@ void Fsauv::construit()
     m_text1->setAccessibleName(m_label1->text());
     m_text1->setAccessibleDescription(m_label2->text());
     m_label1->setBuddy(m_text1);
-    wireField(m_text1, nullptr, nullptr, FieldType::Free, longueurCible);
+    // A target from elsewhere may be longer than what is typed here; half of it could be another folder.
+    wireField(m_text1, nullptr, nullptr, FieldType::Free, qMax(longueurCible, int(m_cible.size())));
     m_avance = nomme(new QProgressBar(m_frame1), "avance");
     m_avance->setAccessibleName(windowTitle());
     m_command1 = bouton(this, "Command1", QStringLiteral("Ok sauv."));

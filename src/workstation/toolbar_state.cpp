@@ -5,6 +5,7 @@
 namespace velmora
 {
 
+/// "précedente" lacks its second accent in one of the two tips: wanted so.
 const std::array<BoutonDef, nombreBoutons> &boutons()
 {
     static const std::array<BoutonDef, nombreBoutons> table{{

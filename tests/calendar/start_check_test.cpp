@@ -60,5 +60,13 @@ TEST_F(StartCheckTest, TheLatestHolidayCountsAndNotTheOneEnteredLast)
     EXPECT_EQ(check(), StartCheck::Nothing);
 }
 
+TEST_F(StartCheckTest, HolidaysThatCantBeReadOpenNothing)
+{
+    addSet();
+    addHoliday(QDate(2025, 12, 25));
+    ASSERT_TRUE(station.session.base.engine.execute("ALTER TABLE ferie RENAME COLUMN act TO autre").ok());
+    EXPECT_EQ(check(), StartCheck::Nothing);
+}
+
 } // namespace
 } // namespace velmora::test

@@ -21,12 +21,19 @@ TEST(BackupCommand, CopiesToAFolderAndTellsWhyItCannot)
         EXPECT_TRUE(run.out.isEmpty());
     }
     const Outcome run = program({"sauvegarde", place.path()});
-    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err, QString());
     EXPECT_EQ(run.lines().size(), 1);
     const QString rows = QStringLiteral("SELECT count(*) || '/' || sum(heurtrav) FROM sitper");
     EXPECT_EQ(queryOne(place.filePath(store::fichierBase), rows), queryOne(program.base(), rows));
     EXPECT_EQ(queryOne(place.filePath(store::fichierJournal), "SELECT count(*) FROM logop"), "31");
     EXPECT_EQ(queryOne(program.base(), "SELECT chemin FROM tnum"), place.path());
+    // A target from where the program runs is remembered for every workstation.
+    const QTemporaryDir near(QDir::current().filePath("copies-XXXXXX"));
+    EXPECT_EQ(program({"sauvegarde", QFileInfo(near.path()).fileName()}).status, 0);
+    EXPECT_EQ(queryOne(program.base(), "SELECT chemin FROM tnum"),
+              QFileInfo(near.path()).canonicalFilePath());
+    EXPECT_EQ(program({"sauvegarde", "."}).errorLines(), QStringList{"chemin absent"});
 }
 
 TEST(BackupCommand, AFullDiskIsARefusalAndChangesNothingElse)

@@ -146,21 +146,21 @@ TEST(ColumnsTest, ColoursTodayHolidaysWeekendsAndTheTwoBands)
     const Header header(6, 2026);
     const Grille &grille = header.grille;
     const int today = header.at({2026, 6, 15});
-    EXPECT_EQ(grille.lit(2, today).fond, palette::fondAujourdhui);
-    EXPECT_EQ(grille.lit(2, today).encre, palette::encreAujourdhui);
+    EXPECT_EQ(grille.lit(2, today).fond, 0xffff0000);
+    EXPECT_EQ(grille.lit(2, today).encre, 0xffffffff);
     EXPECT_EQ(grille.lit(2, today + 1).fond, palette::fondFixe);
     EXPECT_TRUE(grille.lit(2, header.at({2026, 6, 1})).gras);
     EXPECT_FALSE(grille.lit(2, today).gras);
 
     const int mayTotal = header.at({2026, 5, 31}) + 2;
-    EXPECT_EQ(grille.lit(0, mayTotal - 1).fond, palette::bande1);
-    EXPECT_EQ(grille.lit(1, mayTotal).fond, palette::bande2);
-    EXPECT_EQ(grille.lit(0, header.at({2026, 7, 1})).fond, palette::bande1);
+    EXPECT_EQ(grille.lit(0, mayTotal - 1).fond, 0xffffffc0);
+    EXPECT_EQ(grille.lit(1, mayTotal).fond, 0xffffe0c0);
+    EXPECT_EQ(grille.lit(0, header.at({2026, 7, 1})).fond, 0xffffffc0);
 
-    EXPECT_EQ(header.dayColour({2026, 5, 30}), palette::bande1);
-    EXPECT_EQ(header.dayColour({2026, 6, 6}), palette::bande2);
-    EXPECT_EQ(header.dayColour({2026, 6, 1}), palette::ferie);
-    EXPECT_EQ(header.dayColour({2026, 6, 15}), palette::fond);
+    EXPECT_EQ(header.dayColour({2026, 5, 30}), 0xffffffc0);
+    EXPECT_EQ(header.dayColour({2026, 6, 6}), 0xffffe0c0);
+    EXPECT_EQ(header.dayColour({2026, 6, 1}), 0xfffdffea);
+    EXPECT_EQ(header.dayColour({2026, 6, 15}), 0xffffffff);
 }
 
 } // namespace

@@ -72,7 +72,9 @@ protected:
 
 TEST_F(FplanZoomTest, TheZoomMaximisesTheWindowFollowsTheCursorAndGoesAgain)
 {
+    session.affichage.haut1 = 1440; // one inch
     openMonth(2);
+    EXPECT_EQ(list().horizontalHeader()->height(), form->logicalDpiX());
     EXPECT_FALSE(bars().isVisible());
     EXPECT_TRUE(entry("mnuaffnorm")->isChecked());
     trigger("mnuzoom");

@@ -1,7 +1,9 @@
 #include "store/copying.h"
 
 #include "support/data_folder.h"
+#include "support/other_process.h"
 #include "support/raw_sqlite.h"
+#include "support/test_disk.h"
 
 #include <QDir>
 
@@ -60,21 +62,14 @@ protected:
     {
         return RawSqlite(file).value("SELECT group_concat(nump) FROM ligmois");
     }
-    /// Breaks the structure without touching what the opening reads.
-    void damage()
-    {
-        const qint64 page =
-            RawSqlite(source).value("SELECT rootpage FROM sqlite_master WHERE name = 'ligmois'").toLongLong();
-        QFile file(source);
-        ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.seek((page - 1) * 4096));
-        file.write(QByteArray(4096, '\x5a'));
-    }
 };
 
 TEST_F(CopyingTest, HoldsTheFileStillAndReplacesAnEarlierCopyWithItsJournal)
 {
     replaceContent(target, "an older copy");
     replaceContent(target + "-journal", "of a stop long ago");
+    replaceContent(target + ".partiel", "of a kill");
+    replaceContent(target + ".verrou", {});
     RawSqlite other(source);
     int calls = 0;
     const auto whileCopied = [&](int done, int total) {
@@ -103,7 +98,7 @@ TEST_F(CopyingTest, AFailureKeepsTheEarlierCopyAndLeavesNothingElse)
     std::optional<SizeLimit> limit;
     const Case cases[] = {
         {"a write that fails", [&] { limit.emplace(20000); }, CopyOutcome::Fault::Target, Code::Io},
-        {"a damaged page", [&] { damage(); }, CopyOutcome::Fault::Copy, Code::Damaged},
+        {"a damaged page", [&] { breakTable(source, "ligmois"); }, CopyOutcome::Fault::Copy, Code::Damaged},
         {"another program's file", [&] { replaceContent(source, QByteArray(9000, 'x')); },
          CopyOutcome::Fault::Source, Code::NotADatabase},
         {"an empty file", [&] { replaceContent(source, {}); }, CopyOutcome::Fault::Source,
@@ -122,6 +117,44 @@ TEST_F(CopyingTest, AFailureKeepsTheEarlierCopyAndLeavesNothingElse)
         EXPECT_EQ(digest(target), before) << one.what;
         EXPECT_EQ(digest(source), original) << one.what;
         EXPECT_EQ(QDir(place.path()).entryList(QDir::Files), QStringList{"velmora.mdb"}) << one.what;
+    }
+}
+
+TEST_F(CopyingTest, APlaceTakesOneCopyAtATime)
+{
+    const DataFolder other;
+    OtherProcess late([&] {
+        const CopyOutcome copy = store::copyDatabase(other.mainFile(), target);
+        return copy.fault == CopyOutcome::Fault::Target && copy.status.code() == Code::Busy ? 0 : 1;
+    });
+    int refused = -1;
+    const CopyOutcome copy =
+        store::copyDatabase(source, target, {.progress = [&](int, int) { refused = late.run(); }});
+    EXPECT_TRUE(copy.ok()) << copy.status.text().toStdString();
+    EXPECT_EQ(refused, 0);
+    EXPECT_EQ(lines(target), "1");
+    EXPECT_EQ(QDir(place.path()).entryList(QDir::Files), QStringList{"velmora.mdb"});
+    EXPECT_TRUE(store::copyDatabase(other.mainFile(), target).ok());
+}
+
+TEST_F(CopyingTest, IsOnTheDiskBeforeItIsCalledGood)
+{
+    TestDisk disk;
+    disk.remember({});
+    int read = 0;
+    const auto copied = [&](int, int) { read = disk.moment(); };
+    ASSERT_TRUE(store::copyDatabase(source, target, {.progress = copied}).ok());
+    const int changes = disk.moment();
+    std::mt19937 random(1);
+    EXPECT_NE(disk.afterCut(read, random).value("velmora.mdb.partiel"), contentAt(target))
+        << "the original was held until the disk had the copy";
+    EXPECT_EQ(disk.afterCut(changes, random).value("velmora.mdb.partiel"), contentAt(target));
+    const QByteArray before = digest(target);
+    for (int i = 0; i < changes; ++i) {
+        disk.failAfter(i, SQLITE_IOERR, "velmora.mdb.partiel", false);
+        EXPECT_EQ(store::copyDatabase(source, target).fault, CopyOutcome::Fault::Target) << i;
+        EXPECT_TRUE(disk.struck());
+        EXPECT_EQ(digest(target), before) << i;
     }
 }
 

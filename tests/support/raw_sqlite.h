@@ -49,4 +49,15 @@ private:
     sqlite3 *m_database = nullptr;
 };
 
+/// Breaks a table's first page without touching what an opening reads.
+inline void breakTable(const QString &path, const QString &table)
+{
+    const qint64 page =
+        RawSqlite(path)
+            .value(QStringLiteral("SELECT rootpage FROM sqlite_master WHERE name = '%1'").arg(table))
+            .toLongLong();
+    QFile file(path);
+    if (file.open(QIODevice::ReadWrite) && file.seek((page - 1) * 4096)) file.write(QByteArray(4096, 'Z'));
+}
+
 } // namespace velmora::test

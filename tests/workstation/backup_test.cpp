@@ -115,6 +115,7 @@ TEST_F(BackupTest, RefusesATargetThatIsNoneAndRemembersNothing)
         {"F", "chemin absent"},
         {"/", "chemin absent"},
         {"F:", missing},
+        {"F\\", missing}, // long enough before its end is cut off
         {place.path() + "/absent", missing},
         {station.mainFile(), missing},
         {station.folder(), own},
@@ -124,6 +125,35 @@ TEST_F(BackupTest, RefusesATargetThatIsNoneAndRemembersNothing)
     for (const auto &[text, words] : cases)
         EXPECT_EQ(refusal(text), words) << text.toStdString();
     EXPECT_EQ(derniereCible(session), QString());
+}
+
+TEST_F(BackupTest, RefusesTheFolderThatAnotherWorkstationLivesIn)
+{
+    const QString lived = "Un poste se sert des bases de données de ce dossier : indiquez-en un autre.";
+    Workstation other;
+    EXPECT_EQ(refusal(other.folder()), lived);
+    EXPECT_EQ(cibleSauvegarde(other.session, station.folder()).refus, lived);
+    other.session.base.close();
+    other.session.journal.close();
+    EXPECT_EQ(refusal(other.folder()), QString());
+    // While nobody works there, only the link to a shared base tells it from an earlier backup.
+    ASSERT_TRUE(QFile::link(station.mainFile(), place.filePath(bases[0])));
+    EXPECT_EQ(refusal(place.path()), lived);
+}
+
+TEST_F(BackupTest, TwoAtOnceToOneFolderLeaveTheFirstOneWhole)
+{
+    station.addLine(1, "AGENT");
+    Workstation other;
+    QString second;
+    const Sauvegarde done = sauvegarde(session, place.path(), [&](int, int) {
+        if (second.isEmpty()) second = sauvegarde(other.session, place.path()).bilan;
+    });
+    EXPECT_EQ(second, incomplete("n'est pas copié : une autre sauvegarde est en cours dans " + place.path(),
+                                 "est copié et vérifié"));
+    EXPECT_TRUE(done.complete);
+    EXPECT_EQ(RawSqlite(place.filePath(bases[0])).value("SELECT nom FROM ligmois"), "AGENT");
+    EXPECT_EQ(files(place.path()), QStringList({bases[0], bases[1]}));
 }
 
 TEST_F(BackupTest, BothCopiesComeFromTheBasesFolder)
@@ -154,6 +184,11 @@ TEST_F(BackupTest, BothCopiesComeFromTheBasesFolder)
               incomplete("est copié et vérifié",
                          "n'est pas copié : le fichier " + other.journalFile() + " n'existe pas"));
     EXPECT_EQ(content(place.filePath(bases[1])), expected[1]) << "the earlier copy is lost";
+    breakTable(other.mainFile(), "ligmois");
+    EXPECT_TRUE(sauvegarde(session, place.path())
+                    .bilan.contains("velmora.mdb n'est pas copié : le fichier " + other.mainFile() +
+                                    " est endommagé, « velmora verifie » dit en quoi."));
+    EXPECT_EQ(content(place.filePath(bases[0])), expected[0]) << "the earlier copy is lost";
     expectWhole();
 }
 
@@ -198,7 +233,13 @@ TEST_F(BackupTest, ATargetThatTakesNoFileOrVanishesIsTold)
 TEST_F(BackupTest, DatabasesThatDontOpenAgainCloseTheSystem)
 {
     const QString sorry = " ne peut s'effectuer normalement! => fermeture du logiciel";
-    const QString again = "la réouverture de la base de données " + station.folder();
+    // The words name the base's folder, although both files are opened in the journal's.
+    const DataFolder other;
+    ASSERT_TRUE(session.journal.chemin.first() && session.journal.chemin.edit().ok());
+    session.journal.chemin.values().chemin = other.path();
+    ASSERT_TRUE(session.journal.chemin.update().ok());
+    session.cheminbase = other.path();
+    const QString again = "la réouverture de la base de données " + other.path();
     const auto lose = [&](const QString &file) {
         return [file](int done, int total) {
             if (done == total) QFile::rename(file, file + ".perdu");

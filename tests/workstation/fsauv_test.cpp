@@ -1,5 +1,6 @@
 #include "workstation/fsauv.h"
 
+#include "support/data_folder.h"
 #include "support/modal.h"
 #include "support/workstation.h"
 
@@ -82,8 +83,33 @@ TEST_F(FsauvTest, ALongTargetFromElsewhereIsNotCutToAnotherFolder)
     ASSERT_TRUE(session.base.tnum.edit().ok());
     session.base.tnum.values().chemin = deep;
     ASSERT_TRUE(session.base.tnum.update().ok());
-    const Fsauv form(session);
-    EXPECT_EQ(control<QLineEdit>(form, "Text1").text(), deep);
+    Fsauv form(session);
+    auto &field = control<QLineEdit>(form, "Text1");
+    EXPECT_EQ(field.text(), deep);
+    onModal([&](QWidget &) {
+        field.deselect();
+        QTest::keyClick(&field, Qt::Key_Backspace);
+        QTest::keyClick(&field, Qt::Key_Escape);
+    });
+    form.exec();
+    EXPECT_EQ(field.text(), deep.chopped(1));
+}
+
+TEST_F(FsauvTest, ARunThatFailsAltogetherIsARunAllTheSame)
+{
+    ASSERT_TRUE(QFile::remove(station.journalFile()));
+    station.host.expectMessage(sansJournal(station.folder()));
+    station.host.expectMessage("la réouverture de la base de données " + station.folder() +
+                               "velmoralog.mdb ne peut s'effectuer normalement! => fermeture du logiciel");
+    station.host.expectMessage(
+        "La sauvegarde n'est pas complète.\n"
+        "velmora.mdb n'est pas copié : aucun fichier ne peut être écrit dans /proc.\n"
+        "velmoralog.mdb n'est pas copié : aucun fichier ne peut être écrit dans /proc.");
+    Fsauv form(session);
+    onModal([&](QWidget &dialog) { EXPECT_TRUE(answer(dialog, "/proc", Qt::Key_Return)); });
+    form.exec();
+    EXPECT_TRUE(session.dlgvalide);
+    EXPECT_FALSE(form.rouvertes());
 }
 
 } // namespace

@@ -110,6 +110,13 @@ protected:
             captions << action->text();
         return captions;
     }
+    QString entries(int menu)
+    {
+        QStringList captions;
+        for (const QAction *action : window->menuBar()->actions().at(menu)->menu()->actions())
+            captions << action->text();
+        return captions.join('|');
+    }
     void addSet()
     {
         ASSERT_TRUE(session.base.parcg.addNew().ok());
@@ -147,6 +154,13 @@ TEST_F(MdivelTest, StandsWithoutAMonthAtFirst)
     EXPECT_FALSE(shows(button("Imprimer")));
     EXPECT_FALSE(shows(control<QFrame>(*window, "Frameh")));
     EXPECT_FALSE(shows(slider("VScroll1")));
+    const auto scale = [](const QSlider &one) {
+        return QList<int>{one.minimum(), one.maximum(), one.value(), one.singleStep(), one.pageStep()};
+    };
+    EXPECT_EQ(scale(slider("HScroll1")), (QList<int>{0, 200, 100, 2, 2}));
+    EXPECT_EQ(scale(slider("VScroll1")), (QList<int>{0, 100, 50, 2, 2}));
+    EXPECT_EQ(entries(0), "&Ouvrir un planning (mois)|Sauvegarde Fichier");
+    EXPECT_EQ(entries(1), "Paramètres Généraux|Dossiers (équipe, groupe..)|Codes absence|&Fériés");
 }
 
 TEST_F(MdivelTest, EntriesOpenTheirWindowAndAreOffWithoutOne)

@@ -83,6 +83,7 @@ TEST(ToolbarStateTest, KeysAreFoundAsTheyAreWritten)
     for (const BoutonDef &def : boutons())
         EXPECT_EQ(boutonDeCle(def.cle), def.bouton);
     EXPECT_FALSE(boutonDeCle("Zoom").has_value());
+    EXPECT_EQ(boutons()[8].bulle, "Refaire l'opération précedente"); // as it is misspelt
 }
 
 } // namespace
