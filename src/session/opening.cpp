@@ -102,7 +102,7 @@ bool refuseJournal(Session &session)
 }
 
 /// The repair works on the file of the second folder and the reopening takes that of the first, a
-/// difference that is kept.
+/// difference that is kept. A base that isn't there has been said: the journal's message would add nothing.
 bool reparelog(Session &session)
 {
     const QString endommage = session.cheminbase + store::fichierJournal;
@@ -151,7 +151,7 @@ bool ouvrejournal(Session &session)
                                    QStringLiteral(" non retrouvée ! relancer Velmora"));
     }
     const Status ouvert = session.journal.open(fichier);
-    // Another session's journal needs no repair.
+    // Another session's journal needs no repair, and there is nothing to open again while that one runs.
     if (ouvert.code() == Status::Code::Busy) return refuseJournal(session);
     if (!ouvert.ok()) return reparelog(session);
     const Liaison liaison = ouvreLiaison(session);
