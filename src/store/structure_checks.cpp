@@ -146,16 +146,17 @@ QString horsNature(const Column &column)
     return {};
 }
 
+/// The words after "autre chose".
 QString nomNature(const Column &column)
 {
     switch (column.nature) {
     case Nature::Number:
-        return QStringLiteral("un nombre entier de ") + bornes(column, QStringLiteral(" à "));
-    case Nature::Truth: return QStringLiteral("les valeurs vrai (-1) et faux (0)");
-    case Nature::Real: return QStringLiteral("un nombre");
-    case Nature::Text: return QStringLiteral("un texte");
-    case Nature::Date: return QStringLiteral("une date");
-    case Nature::Moment: return QStringLiteral("une date et une heure");
+        return QStringLiteral("qu'un nombre entier de ") + bornes(column, QStringLiteral(" à "));
+    case Nature::Truth: return QStringLiteral("que les valeurs vrai (-1) et faux (0)");
+    case Nature::Real: return QStringLiteral("qu'un nombre");
+    case Nature::Text: return QStringLiteral("qu'un texte");
+    case Nature::Date: return QStringLiteral("qu'une date");
+    case Nature::Moment: return QStringLiteral("qu'une date et une heure");
     }
     return {};
 }
@@ -174,7 +175,7 @@ void verifieValeurs(Engine &engine, const Schema &schema, Constats &constats)
             const std::int64_t nombre = rangee.columnInt(numero++);
             if (nombre == 0) continue;
             constats.push_back(
-                {faute, QStringLiteral("la colonne %1.%2 tient autre chose que %3 (nombre de rangées : %4).")
+                {faute, QStringLiteral("la colonne %1.%2 tient autre chose %3 (nombre de rangées : %4).")
                             .arg(schema.table, column.name, nomNature(column))
                             .arg(nombre)});
         }
