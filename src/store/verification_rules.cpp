@@ -201,23 +201,27 @@ const std::vector<Regle> &reglesJournal()
          "l'image %2 de l'opération %1 dans sitlog n'est d'aucun changement."},
         {faute, "SELECT numop, nivop FROM logabs WHERE " IMAGE_IMPOSSIBLE,
          "l'image %2 de l'opération %1 dans logabs n'est d'aucun changement."},
-        {faute, SUITES_FAUSSES("sitlog", "a.nump IS p.nump AND a.dat IS p.dat"), DIT_SUITE_FAUSSE("sitlog")},
-        // A change may move an absence's first date.
-        {faute, SUITES_FAUSSES("logabs", "a.nump IS p.nump"), DIT_SUITE_FAUSSE("logabs")},
         {faute, "SELECT numop, nivop FROM sitlog WHERE " SANS_DATE("dat") " OR " HORS_JOURNEE,
          "l'image %2 de l'opération %1 n'est pas celle d'une journée."},
         {faute, "SELECT numop, nivop FROM sitlog WHERE babs <> 0",
          "l'image %2 de l'opération %1 a le champ babs, qui ne s'enregistre pas."},
-        // The deletion of an absence is an operation on hours.
-        {faute,
-         "SELECT numop, nivop FROM logabs WHERE numop IN (SELECT numop FROM logop WHERE ficop = 'S') "
-         "AND NOT ifnull(avap = 'A' AND foncop = 'D', 0)",
-         "l'image %2 de l'opération %1 est d'une absence qui n'est pas supprimée, et l'opération n'est que "
-         "d'horaires."},
         {faute,
          "SELECT numop, nivop FROM logabs WHERE " SANS_DATE("datedeb") " OR " SANS_DATE(
              "datefin") " OR datefin < datedeb",
          "l'image %2 de l'opération %1 n'est pas celle d'une absence."},
+
+        // A disk that gives up the journal's transaction and takes the next writes leaves the images of a
+        // slot's former operation, and takes those of the new one beside them.
+        {remarque, SUITES_FAUSSES("sitlog", "a.nump IS p.nump AND a.dat IS p.dat"),
+         DIT_SUITE_FAUSSE("sitlog")},
+        // A change may move an absence's first date.
+        {remarque, SUITES_FAUSSES("logabs", "a.nump IS p.nump"), DIT_SUITE_FAUSSE("logabs")},
+        // The deletion of an absence is an operation on hours.
+        {remarque,
+         "SELECT numop, nivop FROM logabs WHERE numop IN (SELECT numop FROM logop WHERE ficop = 'S') "
+         "AND NOT ifnull(avap = 'A' AND foncop = 'D', 0)",
+         "l'image %2 de l'opération %1 est d'une absence qui n'est pas supprimée, et l'opération n'est que "
+         "d'horaires."},
 
         {faute, "SELECT nump, dat FROM sitco WHERE " HORS_JOURNEE,
          "la journée du %2 de la ligne %1 que tient une copie " DIT_HORS_JOURNEE},
