@@ -38,7 +38,7 @@ protected:
                         .execute(QStringLiteral(
                             "INSERT INTO ligmois (nump, nom, datedeb, datefin) VALUES "
                             "(1, 'EMMA', '2020-01-01', '2099-01-01'), (2, 'ZOÉ', '2020-01-01', '2099-01-01');"
-                            "INSERT INTO codabs (codabs, backc) VALUES ('CP', 16777215), (' M', 0);"
+                            "INSERT INTO codabs (codabs, backc) VALUES ('CP', 16777215), (' M', 0), ('😀', 0);"
                             "INSERT INTO parcg VALUES ('2010-01-01', 0, 0, '');"
                             "INSERT INTO absences VALUES (1, 0, 'CP', '2026-06-10', '2026-06-12'), "
                             "(1, 0, 'M', '2026-06-13', '2026-06-14');"
