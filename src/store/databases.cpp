@@ -26,6 +26,25 @@ Status checkTables(Engine &engine, const std::vector<const Schema *> &schemas)
     return {};
 }
 
+/// An index may be missing from a file that is sound in itself. A clustered table's is its primary key.
+Status checkIndexes(Engine &engine, const std::vector<const Schema *> &schemas)
+{
+    for (const Schema *schema : schemas) {
+        const auto found = engine.prepare(
+            QStringLiteral(
+                "SELECT 1 FROM pragma_index_list('%1') WHERE name = '%2' OR (origin = 'pk' AND %3)")
+                .arg(schema->table, schema->indexes.front().name)
+                .arg(schema->clustered ? 1 : 0));
+        if (!found) return engine.status();
+        const auto step = found->step();
+        if (step == Statement::Step::Failed) return found->status();
+        if (step != Statement::Step::Row)
+            return {Status::Code::Damaged,
+                    QStringLiteral("the index %1 is missing").arg(schema->indexes.front().name)};
+    }
+    return {};
+}
+
 Status checkNotForeign(Engine &engine)
 {
     const std::int64_t mark = fileMark(engine);
@@ -99,6 +118,7 @@ Status JournalDatabase::open(const QString &path)
     // never end. The journal is small enough for that.
     if (status.ok()) status = checkIntegrity(engine);
     if (status.ok()) status = checkTables(engine, schemas());
+    if (status.ok()) status = checkIndexes(engine, schemas());
     if (status.ok()) status = engine.adopt();
     if (!status.ok()) close();
     return status;

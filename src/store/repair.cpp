@@ -85,11 +85,53 @@ Status salvageTable(Engine &damaged, Engine &target, const Schema &schema)
     return {};
 }
 
-/// Slots are told by their head row's counts. Without it the opening makes a new ring.
-Status dropHeadlessRing(Engine &target)
+// Slots are told by their head row's counts: without it, or with rows that no ring has, there is no telling,
+// and the opening makes a new ring.
+constexpr const char *dropUntoldRing = R"(
+    DELETE FROM logop WHERE (SELECT count(*) FILTER (WHERE numop = 0) <> 1 OR count(DISTINCT numop) <> count(*)
+        OR min(numop) < 0 OR max(numop) > 30 FROM logop))";
+
+constexpr const char *dropImages = R"(
+    DELETE FROM %1 WHERE numop NOT IN (SELECT numop FROM logop WHERE numop > 0))";
+
+// A slot that is added has no age yet.
+constexpr const char *addLostSlots = R"(
+    INSERT INTO logop (numop, nivop, ficop, libop, valop)
+    WITH RECURSIVE toutes (numop) AS (SELECT 1 UNION ALL SELECT numop + 1 FROM toutes WHERE numop < 30)
+    SELECT numop, 0, '', '', 0 FROM toutes
+    WHERE EXISTS (SELECT 1 FROM logop) AND numop NOT IN (SELECT numop FROM logop))";
+
+// An undone slot has an age up to the head's count of them; one neither undone nor in force is free.
+constexpr const char *slotsSeen = R"(
+    vues AS (SELECT numop, ordop, ifnull(valop, 0) <> 0 AS vaut,
+        ifnull(ordop BETWEEN 1 AND (SELECT min(ordop, 30) FROM logop WHERE numop = 0), 0) AS recente
+        FROM logop WHERE numop > 0),
+    cases AS (SELECT numop, ordop, vaut, NOT vaut AND NOT recente AS libre FROM vues))";
+
+// The ages of a whole ring stay. In one with a gap they close up, each operation in its turn, so that all
+// those that are left can be undone and redone.
+constexpr const char *closeAges = R"(
+    WITH %1, rangs AS (SELECT numop, ordop, libre, 30 * libre + row_number()
+        OVER (PARTITION BY libre ORDER BY vaut, ordop, numop) AS age FROM cases)
+    UPDATE logop SET ordop = rangs.age FROM rangs WHERE rangs.numop = logop.numop
+    AND EXISTS (SELECT 1 FROM rangs WHERE ordop IS NULL OR (NOT libre AND ordop <> age)))";
+
+constexpr const char *countInHead = R"(
+    WITH %1 UPDATE logop SET ordop = (SELECT count(*) FROM cases WHERE NOT libre AND NOT vaut),
+    nivop = min(nivop, (SELECT count(*) FROM cases WHERE libre)) WHERE numop = 0)";
+
+/// Makes a ring with losses whole again. The lost slots are free, their images go.
+Status completeRing(Engine &target)
 {
-    return target.execute(
-        QStringLiteral("DELETE FROM logop WHERE NOT EXISTS (SELECT 1 FROM logop WHERE numop = 0)"));
+    const auto run = [&target](const char *sql, const char *what) {
+        return target.execute(QString::fromLatin1(sql).replace(QStringLiteral("%1"), QLatin1String(what)));
+    };
+    Status status = run(dropUntoldRing, "");
+    for (const char *images : {"sitlog", "logabs"})
+        if (status.ok()) status = run(dropImages, images);
+    for (const char *step : {addLostSlots, closeAges, countInHead})
+        if (status.ok()) status = run(step, slotsSeen);
+    return status;
 }
 
 Status salvageInto(Engine &damaged, const QString &target)
@@ -99,7 +141,7 @@ Status salvageInto(Engine &damaged, const QString &target)
     if (status.ok()) status = engine.begin(Engine::Transaction::Write);
     for (const Schema *schema : JournalDatabase::schemas())
         if (status.ok()) status = salvageTable(damaged, engine, *schema);
-    if (status.ok()) status = dropHeadlessRing(engine);
+    if (status.ok()) status = completeRing(engine);
     if (status.ok()) status = engine.commit();
     return status;
 }

@@ -81,8 +81,8 @@ QStringList nomsColonnes(const Schema &schema, const Index &index)
     return noms;
 }
 
-/// The columns of an index as the file has it, its uniqueness last; empty when there is none. The standing
-/// index of a clustered table is its primary key.
+/// The columns of an index as the file has it, last whether it is unique and whole; empty when there is none.
+/// The standing index of a clustered table is its primary key.
 QStringList indexPresent(Engine &engine, const Schema &schema, const Index &index, bool primaire)
 {
     if (primaire) {
@@ -92,8 +92,10 @@ QStringList indexPresent(Engine &engine, const Schema &schema, const Index &inde
                QStringList{QStringLiteral("1")};
     }
     return colonnes(engine, QStringLiteral("SELECT name FROM pragma_index_info('%1')").arg(index.name)) +
-           colonnes(engine, QStringLiteral("SELECT \"unique\" FROM pragma_index_list('%1') WHERE name = '%2'")
-                                .arg(schema.table, index.name));
+           colonnes(engine,
+                    QStringLiteral(
+                        "SELECT \"unique\" + 2 * partial FROM pragma_index_list('%1') WHERE name = '%2'")
+                        .arg(schema.table, index.name));
 }
 
 void verifieIndex(Engine &engine, const Schema &schema, Constats &constats)
@@ -105,20 +107,34 @@ void verifieIndex(Engine &engine, const Schema &schema, Constats &constats)
         const QStringList voulu =
             nomsColonnes(schema, index) + QStringList{QString::number(index.unique ? 1 : 0)};
         if (present == voulu) continue;
-        const QString phrase =
-            present.size() < 2
-                ? QStringLiteral("l'index %1 manque à la table %2.")
-                : QStringLiteral(
-                      "l'index %1 de la table %2 n'a pas sa clé, ou n'est pas unique comme il doit.");
+        const QString phrase = present.size() < 2
+                                   ? QStringLiteral("l'index %1 manque à la table %2.")
+                                   : QStringLiteral("l'index %1 de la table %2 n'a pas sa clé, n'a pas "
+                                                    "toutes les rangées, ou n'est pas unique comme il doit.");
         constats.push_back({faute, phrase.arg(index.name, schema.table)});
     }
+}
+
+/// Colours have 32 bits, every other number 16.
+bool estLarge(const Column &column)
+{
+    return column.name.startsWith(QLatin1String("ccl")) || column.name == QLatin1String("backc") ||
+           column.name == QLatin1String("forec");
+}
+
+QString bornes(const Column &column, const QString &entre)
+{
+    return estLarge(column) ? QStringLiteral("-2147483648") + entre + QStringLiteral("2147483647")
+                            : QStringLiteral("-32768") + entre + QStringLiteral("32767");
 }
 
 /// What a value of the nature is not, as a condition; a null is fine everywhere.
 QString horsNature(const Column &column)
 {
     switch (column.nature) {
-    case Nature::Number: return QStringLiteral("typeof(%1) NOT IN ('integer', 'null')").arg(column.name);
+    case Nature::Number:
+        return QStringLiteral("typeof(%1) NOT IN ('integer', 'null') OR %1 NOT BETWEEN %2")
+            .arg(column.name, bornes(column, QStringLiteral(" AND ")));
     case Nature::Truth: return QStringLiteral("%1 NOT IN (0, -1)").arg(column.name);
     case Nature::Real:
         return QStringLiteral("typeof(%1) NOT IN ('real', 'integer', 'null')").arg(column.name);
@@ -130,16 +146,17 @@ QString horsNature(const Column &column)
     return {};
 }
 
-QString nomNature(Nature nature)
+/// The words after "autre chose".
+QString nomNature(const Column &column)
 {
-    switch (nature) {
-    case Nature::Number: return QStringLiteral("un nombre entier");
-    case Nature::Truth: return QStringLiteral("les valeurs vrai (-1) et faux (0)");
-    case Nature::Real: return QStringLiteral("un nombre");
-    case Nature::Text: return QStringLiteral("un texte");
-    // The modifier makes 31 February another day.
-    case Nature::Date: return QStringLiteral("une date");
-    case Nature::Moment: return QStringLiteral("une date et une heure");
+    switch (column.nature) {
+    case Nature::Number:
+        return QStringLiteral("qu'un nombre entier de ") + bornes(column, QStringLiteral(" à "));
+    case Nature::Truth: return QStringLiteral("que les valeurs vrai (-1) et faux (0)");
+    case Nature::Real: return QStringLiteral("qu'un nombre");
+    case Nature::Text: return QStringLiteral("qu'un texte");
+    case Nature::Date: return QStringLiteral("qu'une date");
+    case Nature::Moment: return QStringLiteral("qu'une date et une heure");
     }
     return {};
 }
@@ -158,8 +175,8 @@ void verifieValeurs(Engine &engine, const Schema &schema, Constats &constats)
             const std::int64_t nombre = rangee.columnInt(numero++);
             if (nombre == 0) continue;
             constats.push_back(
-                {faute, QStringLiteral("la colonne %1.%2 tient autre chose que %3 (nombre de rangées : %4).")
-                            .arg(schema.table, column.name, nomNature(column.nature))
+                {faute, QStringLiteral("la colonne %1.%2 tient autre chose %3 (nombre de rangées : %4).")
+                            .arg(schema.table, column.name, nomNature(column))
                             .arg(nombre)});
         }
     });
@@ -173,18 +190,20 @@ Constat controleImpossible(const Status &status)
     return {faute, QStringLiteral("un contrôle n'a pas pu être fait : %1.").arg(status.text())};
 }
 
-Constats verifieStructure(Engine &engine, FileKind kind, const std::vector<const Schema *> &schemas)
+Structure verifieStructure(Engine &engine, FileKind kind, const std::vector<const Schema *> &schemas)
 {
     if (estEtranger(engine, kind))
-        return {{faute, QStringLiteral("le fichier porte la marque d'un autre programme.")}};
-    Constats constats;
-    verifiePages(engine, constats);
+        return {{{faute, QStringLiteral("le fichier porte la marque d'un autre programme.")}}, false};
+    Structure structure;
+    verifiePages(engine, structure.constats);
     for (const Schema *schema : schemas) {
-        if (!verifieColonnes(engine, *schema, constats)) continue;
-        verifieIndex(engine, *schema, constats);
-        verifieValeurs(engine, *schema, constats);
+        if (verifieColonnes(engine, *schema, structure.constats)) {
+            verifieIndex(engine, *schema, structure.constats);
+            verifieValeurs(engine, *schema, structure.constats);
+        } else
+            structure.complete = false;
     }
-    return constats;
+    return structure;
 }
 
 } // namespace velmora::store

@@ -51,11 +51,11 @@ QString phrase(const char *modele, const Statement &rangee)
     return dite;
 }
 
-void applique(Engine &engine, const Regle &regle, Constats &constats)
+void applique(Engine &engine, const Regle &regle, bool complete, Constats &constats)
 {
-    const auto statement = engine.prepare(QString::fromLatin1(regle.sql));
-    // A table that is missing has been told.
-    if (!statement && !constats.empty()) return;
+    const auto statement = engine.prepare(QString::fromUtf8(regle.sql));
+    // A table or a column that is missing has been told.
+    if (!statement && !complete && engine.status().code() == Status::Code::Misuse) return;
     if (!statement) return constats.push_back(controleImpossible(engine.status()));
     int trouves = 0;
     Step step = statement->step();
@@ -74,11 +74,11 @@ Constats verifie(Engine &engine, FileKind kind, const std::vector<const Schema *
 {
     const Status pris = engine.begin(Engine::Transaction::Read);
     if (!pris.ok()) return {controleImpossible(pris)};
-    Constats constats = verifieStructure(engine, kind, schemas);
+    Structure structure = verifieStructure(engine, kind, schemas);
     for (const Regle &regle : regles)
-        applique(engine, regle, constats);
+        applique(engine, regle, structure.complete, structure.constats);
     engine.rollback();
-    return constats;
+    return structure.constats;
 }
 
 QString inouvrable(const Status &status)

@@ -38,10 +38,11 @@ protected:
                         .execute(QStringLiteral(
                             "INSERT INTO ligmois (nump, nom, datedeb, datefin) VALUES "
                             "(1, 'EMMA', '2020-01-01', '2099-01-01'), (2, 'ZOÉ', '2020-01-01', '2099-01-01');"
-                            "INSERT INTO codabs (codabs) VALUES ('CP'), (' M');"
+                            "INSERT INTO codabs (codabs, backc) VALUES ('CP', 16777215), (' M', 0), ('😀', 0);"
                             "INSERT INTO parcg VALUES ('2010-01-01', 0, 0, '');"
                             "INSERT INTO absences VALUES (1, 0, 'CP', '2026-06-10', '2026-06-12'), "
                             "(1, 0, 'M', '2026-06-13', '2026-06-14');"
+                            "INSERT INTO ferie VALUES ('2026-07-14', '2026-07-14', '14 Juillet', 0, 1);"
                             "INSERT INTO groupe VALUES (' Nuit ', 0, 0), ('Nuit', 1, -1), ('Nuit', 9, -1)"))
                         .ok());
         for (int day = 1; day <= 3; ++day) {
@@ -53,6 +54,11 @@ protected:
                 return begun.ok() ? majsit(session) : begun;
             });
         }
+        // The deletion of an absence is an operation on hours.
+        ASSERT_TRUE(session.journal.engine
+                        .execute(QStringLiteral("INSERT INTO logabs VALUES (1, 2, 'A', 'D', 1, 0, 'CP', "
+                                                "'2026-06-20', '2026-06-20')"))
+                        .ok());
     }
 };
 
@@ -70,6 +76,19 @@ const Breach breaches[] = {
     {false, "ALTER TABLE tnum DROP COLUMN chemin", "la colonne chemin manque à la table tnum."},
     {false, "UPDATE sitper SET Val = 1", "la colonne sitper.Val tient autre chose que les valeurs vrai"},
     {false, "UPDATE ligmois SET datefin = '2026-02-31' WHERE nump = 2", "la colonne ligmois.datefin tient"},
+    {false, "DROP INDEX ligmois02; CREATE INDEX ligmois02 ON ligmois (nom) WHERE nump > 1",
+     "l'index ligmois02 de la table"},
+    // A check that can't be made, after a remark.
+    {false,
+     "UPDATE sitper SET nump = 7; ALTER TABLE absences RENAME TO autres; CREATE TABLE absences (nump "
+     "INTEGER, "
+     "numi INTEGER, codabs TEXT, datedeb TEXT, datefin TEXT, PRIMARY KEY (nump, datedeb)) WITHOUT ROWID; "
+     "DROP INDEX abs01; CREATE INDEX abs01 ON absences (nump, datedeb); DROP TABLE autres",
+     "un contrôle n'a pas pu être fait"},
+    {false, "UPDATE sitper SET numi = 32768 WHERE dat = '2026-06-01'",
+     "la colonne sitper.numi tient autre chose qu'un nombre entier de -32768 à 32767 "},
+    {false, "UPDATE codabs SET forec = 2147483648 WHERE codabs = 'CP'",
+     "la colonne codabs.forec tient autre"},
     {false, "UPDATE sitper SET numi = 'x' WHERE dat = '2026-06-01'", "la colonne sitper.numi tient autre"},
     {false, "INSERT INTO tnum (num) VALUES (1)", "la table tnum a 2 rangées"},
     {false, "DROP INDEX ligmois01; INSERT INTO ligmois SELECT * FROM ligmois WHERE nump = 1",
@@ -77,7 +96,9 @@ const Breach breaches[] = {
     {false, "UPDATE ligmois SET nump = 0 WHERE nump = 2", "la ligne « ZOÉ » a le numéro 0"},
     {false, "UPDATE ligmois SET nom = ' EMMA' WHERE nump = 2",
      "? les lignes 1 et 2 portent le même nom « EMMA »"},
-    {false, "UPDATE sitper SET hfin3 = 1441 WHERE dat = '2026-06-02'",
+    {false, "UPDATE sitper SET hfin3 = 1441, hdeb6 = NULL WHERE dat = '2026-06-02'",
+     "la journée du 02/06/2026 de la ligne 1 a une heure"},
+    {false, "UPDATE sitper SET heurpaye = -1 WHERE dat = '2026-06-02'",
      "la journée du 02/06/2026 de la ligne 1 a une heure"},
     {false, "UPDATE sitper SET nump = 7",
      "? des journées sont de la ligne 7, qui n'existe pas (nombre : 3)."},
@@ -87,9 +108,21 @@ const Breach breaches[] = {
      "l'absence de la ligne 1 du 13/06/2026 au 12/06/2026 finit"},
     {false, "UPDATE absences SET codabs = '%1' WHERE codabs = 'M'",
      "? l'absence de la ligne 1 du 13/06/2026 porte le code « %1 »"},
-    {false, "INSERT INTO codabs (codabs) VALUES ('ABC')", "le code d'absence « ABC » n'a pas"},
+    {false, "UPDATE absences SET codabs = 'XXCP' WHERE codabs = 'CP'",
+     "? l'absence de la ligne 1 du 10/06/2026 porte le code « XXCP »"},
+    {false, "UPDATE absences SET codabs = NULL WHERE codabs = 'M'",
+     "? l'absence de la ligne 1 du 13/06/2026 porte le code «  »"},
+    {false, "UPDATE absences SET nump = 0 WHERE codabs = 'M'", "l'absence du 13/06/2026 est de la ligne 0"},
+    {false, "INSERT INTO codabs (codabs) VALUES ('ABC')", "le code d'absence « ABC » n'est pas"},
+    {false, "INSERT INTO codabs (codabs) VALUES ('A ')", "le code d'absence « A  » n'est pas"},
+    {false, "INSERT INTO codabs (codabs) VALUES ('  ')", "le code d'absence «    » n'est pas"},
+    {false, "INSERT INTO parcg (nometab) VALUES ('CLINIQUE')",
+     "le jeu de paramètres de « CLINIQUE » n'a pas"},
+    {false, "INSERT INTO ferie SELECT * FROM ferie", "? le 14/07/2026 est plusieurs fois un jour férié"},
+    {false, "UPDATE ferie SET datefin = '2026-07-15'", "? le jour férié du 14/07/2026 finit le 15/07/2026"},
     {false, "UPDATE parcg SET fdomtom = 10", "le jeu de paramètres du 01/01/2010 nomme la région 10"},
-    {false, "DELETE FROM groupe WHERE nump = 0", "le dossier « Nuit » n'a pas de rangée de tête (nombre de"},
+    {false, "DELETE FROM groupe WHERE nump = 0",
+     "? le dossier « Nuit » n'a pas de rangée de tête (nombre de"},
     {false, "UPDATE groupe SET sel = 0 WHERE nump = 9",
      "le dossier « Nuit » a pour la ligne 9 une rangée qui"},
     {false, "INSERT INTO groupe VALUES ('Nuit', 0, 0)", "? 2 dossiers portent le nom « Nuit »"},
@@ -110,6 +143,17 @@ const Breach breaches[] = {
      "l'opération 1 a plus d'une image de rang 1"},
     {true, "UPDATE sitlog SET nivop = 2 WHERE numop = 3", "? l'opération 3 a perdu des images (nombre : 1)."},
     {true, "UPDATE sitlog SET foncop = 'D' WHERE numop = 2", "l'image 1 de l'opération 2 dans sitlog n'est"},
+    {true, "UPDATE logop SET ordop = 0 WHERE numop = 30", "la rangée 30 de l'anneau a l'âge 0"},
+    {true, "UPDATE logop SET libop = NULL WHERE numop = 2", "l'opération 2 est en vigueur sans libellé"},
+    {true, "UPDATE logop SET ficop = 'SA' WHERE numop = 2", "l'opération 2 est en vigueur sans libellé"},
+    {true, "UPDATE logabs SET numop = 9, nivop = 1", "? des images sont de l'opération 9, qui n'a jamais"},
+    {true, "UPDATE sitlog SET foncop = 'E' WHERE numop = 2",
+     "? l'image 1 de l'opération 2 dans sitlog ne suit"},
+    {true, "UPDATE logabs SET avap = 'P', foncop = 'E'", "? l'image 2 de l'opération 1 dans logabs ne suit"},
+    {true, "UPDATE logabs SET avap = 'P', foncop = 'A'", "? l'image 2 de l'opération 1 est d'une absence"},
+    {true, "UPDATE sitlog SET babs = -1 WHERE numop = 2", "l'image 1 de l'opération 2 a le champ babs"},
+    {true, "INSERT INTO sitco (nump, dat, heurfin) VALUES (1, '2026-06-04', 1500)",
+     "la journée du 04/06/2026 de la ligne 1 que tient une copie a une heure"},
     {true, "UPDATE sitlog SET heurfin = -1 WHERE numop = 2", "l'image 1 de l'opération 2 n'est pas celle"},
 };
 
