@@ -114,9 +114,9 @@ const std::vector<Regle> &reglesBase()
 
         {faute, "SELECT groupe, nump, count(*) FROM groupe GROUP BY groupe, nump HAVING count(*) > 1",
          "le dossier « %1 » a %3 rangées pour la ligne %2."},
-        // The head row keeps the blanks that were typed around the name, and the deletion of such a folder
-        // leaves its members.
-        {remarque,
+        // The deletion of a folder whose head row has blanks around the name leaves such members too: lines
+        // that no list of folders shows.
+        {faute,
          "SELECT groupe, count(*) FROM groupe WHERE nump <> 0 AND groupe NOT IN "
          "(SELECT groupe FROM groupe WHERE nump = 0 UNION SELECT trim(groupe) FROM groupe WHERE nump = 0) "
          "GROUP BY groupe",
@@ -186,8 +186,7 @@ const std::vector<Regle> &reglesJournal()
          "logabs) "
          "GROUP BY numop, nivop HAVING count(*) > 1 OR nivop < 1",
          "l'opération %1 a plus d'une image de rang %2, ou ce rang n'en est pas un."},
-        // A slot that a failing disk kept from being filled has the images of its operation all the same.
-        {remarque,
+        {faute,
          "SELECT numop, count(*) FROM (SELECT numop FROM sitlog UNION ALL SELECT numop FROM logabs) "
          "WHERE numop IN (SELECT numop FROM logop WHERE numop > 0 AND NOT ifnull(valop, 0) "
          "AND ifnull(ficop, '') = '' AND ifnull(libop, '') = '') GROUP BY numop",
@@ -210,14 +209,11 @@ const std::vector<Regle> &reglesJournal()
              "datefin") " OR datefin < datedeb",
          "l'image %2 de l'opération %1 n'est pas celle d'une absence."},
 
-        // A disk that gives up the journal's transaction and takes the next writes leaves the images of a
-        // slot's former operation, and takes those of the new one beside them.
-        {remarque, SUITES_FAUSSES("sitlog", "a.nump IS p.nump AND a.dat IS p.dat"),
-         DIT_SUITE_FAUSSE("sitlog")},
+        {faute, SUITES_FAUSSES("sitlog", "a.nump IS p.nump AND a.dat IS p.dat"), DIT_SUITE_FAUSSE("sitlog")},
         // A change may move an absence's first date.
-        {remarque, SUITES_FAUSSES("logabs", "a.nump IS p.nump"), DIT_SUITE_FAUSSE("logabs")},
+        {faute, SUITES_FAUSSES("logabs", "a.nump IS p.nump"), DIT_SUITE_FAUSSE("logabs")},
         // The deletion of an absence is an operation on hours.
-        {remarque,
+        {faute,
          "SELECT numop, nivop FROM logabs WHERE numop IN (SELECT numop FROM logop WHERE ficop = 'S') "
          "AND NOT ifnull(avap = 'A' AND foncop = 'D', 0)",
          "l'image %2 de l'opération %1 est d'une absence qui n'est pas supprimée, et l'opération n'est que "

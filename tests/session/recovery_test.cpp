@@ -142,7 +142,7 @@ TEST_F(RecoveryTest, RingWithLossesIsWholeAgainAndItsOtherOperationsAreUndone)
         AnsweringHost answering;
         Session session(answering);
         ASSERT_TRUE(start(session));
-        const auto played = [&](void (*play)(Session &)) {
+        const auto played = [&](bool (*play)(Session &)) {
             const auto before = answering.said.size();
             for (auto last = before - 1; answering.said.size() > last; play(session))
                 last = answering.said.size();
