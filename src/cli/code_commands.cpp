@@ -66,13 +66,15 @@ QString prendLibelle(const QString &texte, int longueur, QString &libelle)
     return {};
 }
 
-void prendValorisation(const Arguments &arguments, FicheCode &fiche)
+QString prendValorisation(const Arguments &arguments, FicheCode &fiche)
 {
+    constexpr int longueurValeur = 5; // of the dialog's field
     if (arguments.a("prevus")) fiche.choisit(Valorisation::HorairesPrevus);
     if (arguments.a("jamais")) fiche.choisit(Valorisation::Jamais);
-    if (!arguments.a("valeur")) return;
+    if (!arguments.a("valeur")) return {};
     fiche.choisit(Valorisation::ValeurFixe);
     fiche.valeur = arguments.valeur("valeur");
+    return fiche.valeur.size() > longueurValeur ? tropLong(longueurValeur, fiche.valeur) : QString();
 }
 
 /// Takes the words and options of a call into the sheet. What isn't named stays. Returns why one can't be
@@ -80,11 +82,11 @@ void prendValorisation(const Arguments &arguments, FicheCode &fiche)
 QString prend(const Appel &appel, FicheCode &fiche)
 {
     const Arguments &arguments = appel.arguments;
-    prendValorisation(arguments, fiche);
+    QString faute = prendValorisation(arguments, fiche);
     if (arguments.a("archive")) fiche.barc = true;
     if (arguments.a("actif")) fiche.barc = false;
     if (arguments.a("sans-couleur")) fiche.bcouleur = false;
-    QString faute = prendCouleur(arguments, "fond", fiche.backc, fiche.bcouleur);
+    if (faute.isEmpty()) faute = prendCouleur(arguments, "fond", fiche.backc, fiche.bcouleur);
     if (faute.isEmpty()) faute = prendCouleur(arguments, "texte", fiche.forec, fiche.bcouleur);
     if (faute.isEmpty() && appel.mots.size() > 1)
         faute = prendLibelle(appel.mots[1], longueurLibecour, fiche.libecour);

@@ -13,8 +13,8 @@ inline const QString ficopRemise = QStringLiteral("?");
 /// that changes only `sitper`, "A" for one that may change `absences` too; "?" only resets the head row and
 /// returns 0. The redo flag stays as it was, on purpose: redo may show as possible after a new operation and
 /// then does nothing. Nothing closes an operation: whatever changes until the next one joins it, which is
-/// wanted. Returns 0, and the ring is as it was, when the journal can't take the whole of a batch's operation:
-/// the planning changes all the same.
+/// wanted. Returns 0, and the ring is as it was, when the journal can't take the whole of the operation of a
+/// running batch: the planning changes all the same. Without a transaction a step that fails is left undone.
 int ecritop(Session &session, const QString &ficop, const QString &libop);
 
 /// Opens the operation of a command that may be tried again: `operation` is 0 at the first try. A later one

@@ -72,12 +72,11 @@ Status retientJour(Session &session, Pressepapiers &presse, int nump, const QDat
 }
 
 Status retient(Session &session, Pressepapiers &presse, const Ligne &ligne, const QDate &debut,
-               const QDate &fin, Jours &jours)
+               const QDate &fin, Jours &jours, int &operation)
 {
     if (presse.clipcoupe) {
-        session.opcour =
-            ecritop(session, QStringLiteral("S"),
-                    QStringLiteral(" coupé: ") + ligne.nom + QLatin1Char(' ') + periodetexte(debut, fin));
+        ouvreop(session, operation, QStringLiteral("S"),
+                QStringLiteral(" coupé: ") + ligne.nom + QLatin1Char(' ') + periodetexte(debut, fin));
     }
     presse.clipbk.clear();
     videsitco(session);
@@ -179,10 +178,12 @@ Retenue retientJours(Session &session, Pressepapiers &presse, const Ligne &ligne
                      const QDate &fin)
 {
     Jours jours(static_cast<std::size_t>(debut.daysTo(fin) + 1));
+    int operation = 0;
     // Days that the journal couldn't take would be held nowhere, and those of a cut lost: whole or not at
     // all.
     const bool fait = enLot(
-        session, [&] { return retient(session, presse, ligne, debut, fin, jours); }, Batch::Kind::Redo);
+        session, [&] { return retient(session, presse, ligne, debut, fin, jours, operation); },
+        Batch::Kind::Redo);
     if (!fait) {
         presse.vide();
         return Retenue::Abandonnee;
@@ -198,6 +199,7 @@ bool colleJours(Session &session, Pressepapiers &presse, const Ligne &ligne, con
 {
     const auto jours = presse.tient(session) ? joursTenus(session, presse) : std::nullopt;
     if (!jours) {
+        if (!session.journal.sitco.status().ok()) ditEchecDisque(session);
         presse.vide();
         return false;
     }

@@ -36,13 +36,21 @@ bool resteLaMeme(Session &session, const AbsenceSaisie &montree)
            absence.datedeb == montree.datedeb && absence.datefin == montree.datefin;
 }
 
+/// How far the deletion of an absence has come.
+struct Retrait {
+    bool commence = false; ///< an earlier try has deleted it
+    bool autre = false;    ///< another absence, or another state of it, stands in its place
+};
+
 /// An absence that is gone by now leaves nothing to do, unless an earlier try has deleted it.
-Status retireAbsence(Session &session, const store::Bookmark<AbsenceSaisie> &place, bool &commencee)
+Status retireAbsence(Session &session, const store::Bookmark<AbsenceSaisie> &place, Retrait &retrait)
 {
     auto &absences = session.base.absences;
-    const bool presente = absences.goTo(place) && resteLaMeme(session, place.row());
-    if (!presente && !(commencee && absences.status().ok())) return absences.status();
-    commencee = true;
+    const bool occupee = absences.goTo(place);
+    const bool presente = occupee && resteLaMeme(session, place.row());
+    retrait.autre = occupee && !presente && !retrait.commence;
+    if (!presente && !(retrait.commence && absences.status().ok())) return absences.status();
+    retrait.commence = true;
     const Status status = presente ? supprabs(session) : Status{};
     if (!status.ok()) return status;
     const AbsenceSaisie &absence = place.row();
@@ -63,8 +71,9 @@ Suppression supprimeAbsence(Session &session, const Ligne &ligne)
     const QString question =
         QStringLiteral("Suppression absence ") + place.row().codabs + QLatin1Char(' ') + periode;
     if (!session.host.question(question + QStringLiteral(" ?"), titre)) return Suppression::Refusee;
-    bool commencee = false;
-    return supprime(session, [&] { return retireAbsence(session, place, commencee); });
+    Retrait retrait;
+    const Suppression issue = supprime(session, [&] { return retireAbsence(session, place, retrait); });
+    return retrait.autre ? Suppression::SansObjet : issue;
 }
 
 Status retireHoraires(Session &session, int nump, const QDate &debut, const QDate &fin)
@@ -119,7 +128,7 @@ void supcell(Planning &planning)
         issue = supprimeJours(planning.session, cible->ligne, cible->debut, cible->fin);
     }
     planning.curseur = place;
-    if (issue == Suppression::Faite || issue == Suppression::Abandonnee) {
+    if (issue != Suppression::Refusee) {
         planning.pressepapiers.vide();
         majligne(planning, cible->ligne.nump, cible->rangee);
     }

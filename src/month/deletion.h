@@ -17,8 +17,9 @@ enum class Suppression {
 
 /// Deletes what a line holds from one date to another, both included, once the user has agreed: the absence
 /// that covers the first date, whole even beyond them, whose hidden hours then count again; without one, the
-/// hours of the dates. The operation is opened before the question, so that a refusal leaves an empty one in
-/// the journal. That is wanted. No lock is held while the question stands.
+/// hours of the dates. An absence that another workstation changed during the question stays. The operation
+/// is opened before the question, so that a refusal leaves an empty one in the journal. That is wanted. No
+/// lock is held while the question stands.
 Suppression supprimeJours(Session &session, const Ligne &ligne, const QDate &debut, const QDate &fin);
 
 /// Whether a line has a row of hours on one of the dates. `sitper` stands on the first.

@@ -13,18 +13,6 @@ using store::Status;
 namespace
 {
 
-/// Deletes the images of an operation above a rank.
-template <class Image> Status retireImages(store::Table<Image> &images, int numop, int nivop)
-{
-    bool trouve = images.seek(store::Cmp::Gt, {numop, nivop});
-    while (trouve && images.row().rang.numop == numop) {
-        const Status status = images.erase();
-        if (!status.ok()) return status;
-        trouve = images.next();
-    }
-    return images.status();
-}
-
 Status commitBoth(Engine &first, Engine &second)
 {
     const Status status = first.commit();
@@ -50,7 +38,7 @@ Status Batch::begin()
     m_begun = status.ok();
     if (!m_begun) return status;
     const Status journal = m_session.journal.engine.begin(Engine::Transaction::Write);
-    m_avant = anneau();
+    m_avant = {m_session.opcour, m_session.nivcour, m_session.peutannul, m_session.peutrefaire};
     if (m_step) m_step->marque();
     return m_kind == Kind::Recording ? Status{} : journal;
 }
@@ -95,7 +83,9 @@ Status Batch::commitJournalFirst()
     if (!recorded.ok() && m_kind == Kind::Redo) return recorded;
     m_session.journal.engine.rollback();
     const Status written = base.commit();
-    if (!written.ok() && recorded.ok()) reprendJournal();
+    // The session stays on the operation: another try goes on with it, and its images add up to the same
+    // undo.
+    if (!written.ok() && recorded.ok()) m_begun = false;
     if (written.ok() && !recorded.ok()) {
         remetSession();
         m_session.opcour = m_session.nivcour = 0;
@@ -110,66 +100,12 @@ void Batch::rollback()
     if (std::exchange(m_begun, false)) remetSession();
 }
 
-/// A walk of the ring may be waiting in a pause: its current row stays.
-Batch::Anneau Batch::anneau()
-{
-    Anneau lu{{}, m_session.opcour, m_session.nivcour, m_session.peutannul, m_session.peutrefaire};
-    auto operations = m_session.journal.logop.range("logop01", {}, {});
-    while (operations.next())
-        lu.operations.push_back(operations.row());
-    return lu;
-}
-
 void Batch::remetSession()
 {
     m_session.opcour = m_avant.opcour;
     m_session.nivcour = m_avant.nivcour;
     m_session.peutannul = m_avant.peutannul;
     m_session.peutrefaire = m_avant.peutrefaire;
-}
-
-/// Undoes a recording that is committed already, while its rows are not. The images that a new operation
-/// drove out of its slot are gone: the slot comes back empty.
-void Batch::reprendJournal()
-{
-    Engine &journal = m_session.journal.engine;
-    if (!journal.begin(Engine::Transaction::Write).ok()) return;
-    // Half of a former ring would be worse than an operation whose rows haven't changed.
-    if (!reprendOperation().ok() || !journal.commit().ok()) journal.rollback();
-}
-
-Status Batch::reprendOperation()
-{
-    auto &journal = m_session.journal;
-    const int opcour = m_session.opcour;
-    const bool nouvelle = opcour != m_avant.opcour;
-    const int garde = nouvelle ? 0 : m_avant.nivcour;
-    Status status = retireImages(journal.sitlog, opcour, garde);
-    if (status.ok()) status = retireImages(journal.logabs, opcour, garde);
-    return status.ok() ? remetOperations(nouvelle ? opcour : 0) : status;
-}
-
-/// Writes the ring's rows as they were. The slot of an operation opened since comes back free.
-Status Batch::remetOperations(int ouverte)
-{
-    auto &logop = m_session.journal.logop;
-    bool trouvee = logop.first();
-    for (const Operation &avant : m_avant.operations) {
-        Status status = trouvee ? logop.edit() : logop.status();
-        if (!status.ok()) return status;
-        Operation &operation = logop.values() = avant;
-        if (ouverte != 0 && operation.numop == ouverte) {
-            if (operation.valop) operation.ordop = m_session.nblog + 1;
-            operation.valop = false;
-        }
-        status = logop.update();
-        if (!status.ok()) {
-            logop.cancelUpdate();
-            return status;
-        }
-        trouvee = logop.next();
-    }
-    return {};
 }
 
 Batch::Pause::Pause(Batch *batch) : m_batch(batch && batch->m_begun ? batch : nullptr)

@@ -20,8 +20,7 @@ public:
     /// between the two commits, the journal shows the operation in force, keeps its images, and undoing it
     /// is harmless: images are written over whatever the rows hold.
     enum class Kind {
-        Recording, ///< journal first; when the journal alone fails, the planning changes unrecorded; when the
-                   ///< planning's commit fails, the recording is taken back
+        Recording, ///< journal first; when the journal alone fails, the planning changes unrecorded
         Undo,      ///< planning first; whole or not at all: else rows could stay that no undo reaches
         Redo       ///< journal first; whole or not at all
     };
@@ -34,11 +33,13 @@ public:
     /// Takes the main file's write lock, waiting for other workstations as long as the busy wait.
     [[nodiscard]] store::Status begin();
     /// Ends the transaction. A failure, also one of an earlier commit of the batch, leaves neither rows nor
-    /// recording of what has been written since `begin`.
+    /// recording of what has been written since `begin`. Only when the journal's commit stood and the
+    /// planning's didn't does the recording stay, with the session on its operation: a commit that the disk
+    /// reported as failed may stand all the same, and its rows must have their images.
     [[nodiscard]] store::Status commit();
     void rollback();
     /// Whether what the command writes can be recorded: false once the journal's part of the transaction
-    /// failed. The ring is then as it was before the batch, and no slot is open.
+    /// failed. The ring is then as it was before the batch.
     [[nodiscard]] bool enregistre() const;
     /// Drops the journal's part: half an operation in the ring would be played over other days.
     void renonceEnregistrement();
@@ -60,29 +61,24 @@ public:
 private:
     friend class BatchStep;
 
-    /// The journal's ring and the session's part of it, as they were before the transaction.
+    /// The session's part of the ring.
     struct Anneau {
-        std::vector<Operation> operations; ///< in the order of the table
         int opcour = 0;
         int nivcour = 0;
         bool peutannul = false;
         bool peutrefaire = false;
     };
 
-    [[nodiscard]] Anneau anneau();
     [[nodiscard]] store::Status commitJournal();
     [[nodiscard]] store::Status commitJournalFirst();
     void remetSession();
-    void reprendJournal();
-    [[nodiscard]] store::Status reprendOperation();
-    [[nodiscard]] store::Status remetOperations(int ouverte);
 
     Session &m_session;
     Kind m_kind;
     BatchStep *m_step = nullptr; ///< the part that is being written
     bool m_begun = false;        ///< a transaction was taken and not ended yet
     store::Status m_echec;       ///< a commit that failed
-    Anneau m_avant;
+    Anneau m_avant;              ///< before the transaction
 };
 
 /// A part of a batch that is kept or taken back whole, its images included: the rows of one date. What was
@@ -115,7 +111,8 @@ private:
 /// holds and of the disk for a failure of the disk: on Yes the whole command runs again, on No the process
 /// ends. After a failure in which the engine gave the transaction up by itself nothing of the command stands,
 /// and its operation isn't in the ring. A failure that another try can't mend (a missing row, a key that is
-/// already there, a misuse) is told in a message, and the command is given up and taken back.
+/// already there, a misuse) is told in a message, and the command is given up and taken back, unless it is
+/// part of another's batch.
 /// An undo or a redo that fails is taken back whole before the question. A batch within a batch joins it: a
 /// wait that lets events run may start another command.
 /// Returns false when the command was given up.

@@ -1,6 +1,5 @@
 #include "store/copying.h"
 
-#include "store/copying_lock.h"
 #include "store/file_replacement.h"
 #include "store/integrity.h"
 #include "store/sqlite_engine.h"
@@ -158,9 +157,6 @@ CopyOutcome checkCopy(const QString &work)
 
 CopyOutcome copyDatabase(const QString &source, const QString &target, const CopyOptions &options)
 {
-    CopyingLock lock(target);
-    const Status status = lock.take();
-    if (!status.ok()) return {Fault::Target, status};
     const QString work = target + QStringLiteral(".partiel");
     QFile::remove(work); // of a copy that was killed
     CopyOutcome copy = transfer(source, work, options);

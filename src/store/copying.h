@@ -15,7 +15,7 @@ struct CopyOutcome {
     enum class Fault {
         None,
         Source, ///< the file to copy is missing, held by another session or unreadable
-        Target, ///< its new place is gone, full, can't be written, or busy with another copy
+        Target, ///< its new place is gone, full, can't be written
         Copy    ///< the copy was made and wasn't sound, since the file isn't
     };
 
@@ -31,8 +31,8 @@ struct CopyOptions {
     CopyProgress progress{};
 };
 
-/// Puts a copy of a database file at `target`, over what is there; a place that another copy is being made at
-/// is refused as busy. All of the file is read under one lock, so that the copy is one state of it. A session
+/// Puts a copy of a database file at `target`, over what is there; whoever calls it has the place's
+/// `CopyingLock`. All of the file is read under one lock, so that the copy is one state of it. A session
 /// that writes meanwhile waits, and while it waits whoever begins to read does too; after its busy wait its
 /// write fails. The lock is let go before the copy is synchronised. Before it takes its place the copy is on
 /// the disk, opened read-only and checked whole: on a failure the place keeps the file that it had, and

@@ -8,7 +8,7 @@
 namespace velmora::store
 {
 
-/// Keeps the place of a copy to one process at a time, on this machine and on those that share the folder.
+/// Keeps the place of copies to one session at a time, on this machine and on those that share the folder.
 /// Its file stands beside the place and goes with the lock. What a kill leaves of it holds nobody up: the
 /// next one takes it over, whoever made it.
 class CopyingLock

@@ -120,6 +120,11 @@ constexpr const char *countInHead = R"(
     WITH %1 UPDATE logop SET ordop = (SELECT count(*) FROM cases WHERE NOT libre AND NOT vaut),
     nivop = min(nivop, (SELECT count(*) FROM cases WHERE libre)) WHERE numop = 0)";
 
+// Lost operations leave free levels, so that the last one that is left shows as the last.
+constexpr const char *countFreeInHead = R"(
+    UPDATE logop SET nivop = 30 - ordop - (SELECT count(*) FROM logop WHERE numop > 0 AND valop)
+    WHERE numop = 0)";
+
 /// Makes a ring with losses whole again. The lost slots are free, their images go.
 Status completeRing(Engine &target)
 {
@@ -129,9 +134,11 @@ Status completeRing(Engine &target)
     Status status = run(dropUntoldRing, "");
     for (const char *images : {"sitlog", "logabs"})
         if (status.ok()) status = run(dropImages, images);
-    for (const char *step : {addLostSlots, closeAges, countInHead})
+    if (status.ok()) status = run(addLostSlots, "");
+    const bool lost = target.changedRows() > 0;
+    for (const char *step : {closeAges, countInHead})
         if (status.ok()) status = run(step, slotsSeen);
-    return status;
+    return status.ok() && lost ? run(countFreeInHead, "") : status;
 }
 
 Status salvageInto(Engine &damaged, const QString &target)

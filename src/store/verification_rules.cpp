@@ -9,7 +9,9 @@
 #define DIT_HORS_JOURNEE "a une heure hors de 0 à 1440 minutes, ou un temps négatif."
 // A code as one looks for it: without blanks around it, a single letter after one. A character beyond 16 bits
 // counts as two.
-#define ROGNE(code) "trim(ifnull(" code ", ''), char(9, 10, 11, 12, 13, 32, 133, 160))"
+#define ROGNE(code)                                                                                          \
+    "trim(ifnull(" code ", ''), char(9, 10, 11, 12, 13, 32, 133, 160, 5760, 8192, 8193, 8194, 8195, 8196, "  \
+    "8197, 8198, 8199, 8200, 8201, 8202, 8232, 8233, 8239, 8287, 12288))"
 #define ALIGNE(code)                                                                                         \
     "substr('  ' || " ROGNE(code) ", -max(length(" ROGNE(code) "), 2 - (" ROGNE(code) " >= char(65536))))"
 #define SANS_DATE(champ) "ifnull(" champ ", '') = ''"
@@ -118,15 +120,17 @@ const std::vector<Regle> &reglesBase()
         // that no list of folders shows.
         {faute,
          "SELECT groupe, count(*) FROM groupe WHERE nump <> 0 AND groupe NOT IN "
-         "(SELECT groupe FROM groupe WHERE nump = 0 UNION SELECT trim(groupe) FROM groupe WHERE nump = 0) "
-         "GROUP BY groupe",
+         "(SELECT groupe FROM groupe WHERE nump = 0 UNION SELECT " ROGNE(
+             "groupe") " FROM groupe WHERE nump = 0) "
+                       "GROUP BY groupe",
          "le dossier « %1 » n'a pas de rangée de tête (nombre de lignes : %2)."},
         {remarque,
-         "SELECT trim(groupe), count(*) FROM groupe WHERE nump = 0 GROUP BY trim(groupe) HAVING count(*) > 1",
+         "SELECT " ROGNE(
+             "groupe") " AS nom, count(*) FROM groupe WHERE nump = 0 GROUP BY nom HAVING count(*) > 1",
          "%2 dossiers portent le nom « %1 », aux blancs près."},
         {faute, "SELECT groupe, nump FROM groupe WHERE nump < 0 OR (nump > 0 AND NOT ifnull(sel, 0))",
          "le dossier « %1 » a pour la ligne %2 une rangée qui n'est pas cochée."},
-        {faute, "SELECT DISTINCT groupe FROM groupe WHERE length(groupe) > 15 OR trim(groupe) = ''",
+        {faute, "SELECT DISTINCT groupe FROM groupe WHERE length(groupe) > 15 OR " ROGNE("groupe") " = ''",
          "le nom de dossier « %1 » est vide ou passe 15 caractères."},
     };
     return regles;

@@ -3,6 +3,7 @@
 #include "session/guards.h"
 #include "session/opening.h"
 #include "session/velmoral.h"
+#include "store/copying_lock.h"
 #include "store/sqlite_engine.h"
 
 #include <QFileInfo>
@@ -94,8 +95,12 @@ public:
     {
     }
 
+    /// Two backups at once would leave the base of one with the journal of the other.
     void copie(const store::CopyProgress &progression)
     {
+        store::CopyingLock place(avecSeparateur(m_dossier) + QStringLiteral("velmora"));
+        const store::Status prise = place.take();
+        if (!prise.ok()) return m_issues.fill({Fault::Target, prise});
         for (std::size_t i = 0; i < fichiers.size(); ++i) {
             const auto avance = [&](int fait, int total) {
                 if (progression) progression(int(i) * total + fait, int(fichiers.size()) * total);

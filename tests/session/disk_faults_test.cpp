@@ -4,6 +4,8 @@
 #include "support/raw_sqlite.h"
 #include "support/test_disk.h"
 
+#include <cstring>
+
 namespace velmora::test
 {
 namespace
@@ -85,6 +87,10 @@ protected:
             disk.heal();
             expectDiskWords(host.said);
             EXPECT_EQ(planningOf(session).toStdString(), states.after.toStdString());
+            if (command.undone && file == store::fichierBase) {
+                annulop(session);
+                EXPECT_EQ(planningOf(session).toStdString(), states.before.toStdString());
+            }
             EXPECT_TRUE(enterHours(session, 2, {2026, 6, 28}, {2026, 6, 28}, {"10h", "12h"}));
             EXPECT_TRUE(session.base.sitper.seek(store::Cmp::Eq, {2, QDate(2026, 6, 28)}));
         }
@@ -189,7 +195,8 @@ TEST_F(DiskFaultsTest, WhatCantBeRecordedLeavesTheOtherOperationsAlone)
     files.keep();
     const QList<QStringList> before = slotsLeft();
     for (const SessionCommand &command : everyCommand()) {
-        if (command.planningFirst) break; // undo and redo come last
+        if (command.planningFirst) break;                    // undo and redo come last
+        if (std::strcmp(command.name, "cut") == 0) continue; // asks instead, and runs again
         bool struck = false;
         const QList<QStringList> after = slotsAfter(command, -1, struck);
         for (int changes = 0; changes == 0 || struck; ++changes) {

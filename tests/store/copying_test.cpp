@@ -1,4 +1,5 @@
 #include "store/copying.h"
+#include "store/copying_lock.h"
 
 #include "support/data_folder.h"
 #include "support/other_process.h"
@@ -69,7 +70,6 @@ TEST_F(CopyingTest, HoldsTheFileStillAndReplacesAnEarlierCopyWithItsJournal)
     replaceContent(target, "an older copy");
     replaceContent(target + "-journal", "of a stop long ago");
     replaceContent(target + ".partiel", "of a kill");
-    replaceContent(target + ".verrou", {});
     RawSqlite other(source);
     int calls = 0;
     const auto whileCopied = [&](int done, int total) {
@@ -120,21 +120,19 @@ TEST_F(CopyingTest, AFailureKeepsTheEarlierCopyAndLeavesNothingElse)
     }
 }
 
-TEST_F(CopyingTest, APlaceTakesOneCopyAtATime)
+TEST_F(CopyingTest, APlaceIsOneProcesssAtATimeAndAKilledOnesIsFree)
 {
-    const DataFolder other;
     OtherProcess late([&] {
-        const CopyOutcome copy = store::copyDatabase(other.mainFile(), target);
-        return copy.fault == CopyOutcome::Fault::Target && copy.status.code() == Code::Busy ? 0 : 1;
+        store::CopyingLock lock(target);
+        return lock.take().code() == Code::Busy ? 0 : 1;
     });
-    int refused = -1;
-    const CopyOutcome copy =
-        store::copyDatabase(source, target, {.progress = [&](int, int) { refused = late.run(); }});
-    EXPECT_TRUE(copy.ok()) << copy.status.text().toStdString();
-    EXPECT_EQ(refused, 0);
-    EXPECT_EQ(lines(target), "1");
-    EXPECT_EQ(QDir(place.path()).entryList(QDir::Files), QStringList{"velmora.mdb"});
-    EXPECT_TRUE(store::copyDatabase(other.mainFile(), target).ok());
+    replaceContent(target + ".verrou", {});
+    {
+        store::CopyingLock lock(target);
+        EXPECT_TRUE(lock.take().ok());
+        EXPECT_EQ(late.run(), 0);
+    }
+    EXPECT_EQ(QDir(place.path()).entryList(QDir::Files), QStringList());
 }
 
 TEST_F(CopyingTest, IsOnTheDiskBeforeItIsCalledGood)

@@ -34,17 +34,18 @@ protected:
         Session session(host);
         folder.give(session);
         ASSERT_TRUE(ouvrejournal(session) && ouvrebase(session));
-        ASSERT_TRUE(session.base.engine
-                        .execute(QStringLiteral(
-                            "INSERT INTO ligmois (nump, nom, datedeb, datefin) VALUES "
-                            "(1, 'EMMA', '2020-01-01', '2099-01-01'), (2, 'ZOÉ', '2020-01-01', '2099-01-01');"
-                            "INSERT INTO codabs (codabs, backc) VALUES ('CP', 16777215), (' M', 0), ('😀', 0);"
-                            "INSERT INTO parcg VALUES ('2010-01-01', 0, 0, '');"
-                            "INSERT INTO absences VALUES (1, 0, 'CP', '2026-06-10', '2026-06-12'), "
-                            "(1, 0, 'M', '2026-06-13', '2026-06-14');"
-                            "INSERT INTO ferie VALUES ('2026-07-14', '2026-07-14', '14 Juillet', 0, 1);"
-                            "INSERT INTO groupe VALUES (' Nuit ', 0, 0), ('Nuit', 1, -1), ('Nuit', 9, -1)"))
-                        .ok());
+        ASSERT_TRUE(
+            session.base.engine
+                .execute(QStringLiteral(
+                    "INSERT INTO ligmois (nump, nom, datedeb, datefin) VALUES "
+                    "(1, 'EMMA', '2020-01-01', '2099-01-01'), (2, 'ZOÉ', '2020-01-01', '2099-01-01');"
+                    "INSERT INTO codabs (codabs, backc) VALUES ('CP', 16777215), (' M', 0), ('😀', 0);"
+                    "INSERT INTO parcg VALUES ('2010-01-01', 0, 0, '');"
+                    "INSERT INTO absences VALUES (1, 0, 'CP', '2026-06-10', '2026-06-12'), "
+                    "(1, 0, 'M', '2026-06-13', '2026-06-14');"
+                    "INSERT INTO ferie VALUES ('2026-07-14', '2026-07-14', '14 Juillet', 0, 1);"
+                    "INSERT INTO groupe VALUES ('\u00a0Nuit ', 0, 0), ('Nuit', 1, -1), ('Nuit', 9, -1)"))
+                .ok());
         for (int day = 1; day <= 3; ++day) {
             enLot(session, [&] {
                 ecritop(session, QStringLiteral("S"), QStringLiteral("nouvel horaire: EMMA"));

@@ -77,6 +77,7 @@ struct SessionCommand {
     const char *name;
     bool planningFirst;
     void (*run)(Session &session);
+    bool undone = false; ///< an undo brings back the whole planning of before
 };
 
 /// One of every kind, each of which changes something on prepared files.
@@ -86,11 +87,13 @@ inline const std::vector<SessionCommand> &everyCommand()
         {"entry", false,
          [](Session &session) {
              enterHours(session, 1, {2026, 6, 10}, {2026, 6, 16}, {"7h", "15h"});
-         }},
+         },
+         true},
         {"deletion of hours", false,
          [](Session &session) {
              deleteDays(session, 1, {2026, 6, 3}, {2026, 6, 5});
-         }},
+         },
+         true},
         {"deletion of an absence", false,
          [](Session &session) {
              deleteDays(session, 1, {2026, 6, 23}, {2026, 6, 23});
@@ -98,7 +101,16 @@ inline const std::vector<SessionCommand> &everyCommand()
         {"copy and paste", false,
          [](Session &session) {
              moveDays(session, 1, {2026, 6, 1}, {2026, 6, 4}, 2, {2026, 6, 7}, false);
-         }},
+         },
+         true},
+        {"cut", false,
+         [](Session &session) {
+             Pressepapiers held;
+             held.clipcoupe = true;
+             EXPECT_EQ(retientJours(session, held, lineOf(session, 1), {2026, 6, 9}, {2026, 6, 10}),
+                       Retenue::Faite);
+         },
+         true},
         {"absence", false,
          [](Session &session) {
              const Ligne line = lineOf(session, 1);
