@@ -16,6 +16,11 @@ struct HourText {
     int minutes;
 };
 
+void PrintTo(const HourText &one, std::ostream *out)
+{
+    *out << testing::PrintToString(std::u16string(one.text));
+}
+
 class Valhor : public testing::TestWithParam<HourText>
 {
 };

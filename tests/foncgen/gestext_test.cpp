@@ -51,6 +51,11 @@ struct Typing {
     const char16_t *text;
 };
 
+void PrintTo(const Typing &one, std::ostream *out)
+{
+    *out << testing::PrintToString(std::u16string(one.keys));
+}
+
 class TypedText : public testing::TestWithParam<Typing>
 {
 };

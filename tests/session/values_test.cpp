@@ -17,6 +17,11 @@ struct DurationCase {
     std::optional<double> after;
 };
 
+void PrintTo(const DurationCase &one, std::ostream *out)
+{
+    *out << one.text;
+}
+
 class Hdeci : public testing::TestWithParam<DurationCase>
 {
 };
