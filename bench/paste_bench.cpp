@@ -24,8 +24,8 @@ void BM_Paste(benchmark::State &state)
         state.PauseTiming();
         // Other hours at each run, so that each one changes its rows.
         const QDate source = QDate(2026, 8, 1).addDays(++run % jours);
-        const bool tenus = retientJours(poste.session, presse, ligne, source, source.addDays(jours - 1)) ==
-                           Retenue::Faite;
+        const bool tenus =
+            retientJours(poste.session, presse, ligne, source, source.addDays(jours - 1)) == Retenue::Faite;
         state.ResumeTiming();
         colleJours(poste.session, presse, ligne, {2026, 7, 1});
         if (!tenus || presse.cliplong() != jours) state.SkipWithError("not pasted");

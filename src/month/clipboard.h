@@ -42,7 +42,7 @@ enum class Retenue {
 /// both files; a failure asks whether to try again, and a second try still holds what the first one took out.
 /// Ends with `clipcoupe` false.
 Retenue retientJours(Session &session, Pressepapiers &presse, const Ligne &ligne, const QDate &debut,
-                  const QDate &fin);
+                     const QDate &fin);
 
 /// Writes the days held on a line from a date on, in calendar order, as one operation and one transaction.
 /// Days outside the line's dates are passed over and the later ones keep their place; a day held without

@@ -70,7 +70,7 @@ struct Agent {
     QString pseudo;
     QString nom;
     int droit = 0;
-    QString mes; ///< may be null
+    QString mes;      ///< may be null
     bool bss = false; ///< nothing reads or writes it; the files have it
     Affichage affichage;
 };

@@ -118,7 +118,7 @@ struct Dossier {
 
 /// `tnum`: the one row of the base's own state.
 struct Tnum {
-    QString chemin; ///< last backup target
+    QString chemin;     ///< last backup target
     double Version = 0; ///< of the engine that made the row; files of any version are opened
     int num = 0;        ///< 1; nothing reads it
 };
